@@ -1,0 +1,79 @@
+// Region 1, compressed liquid: the IAPWS-IF97 basic equation gamma(pi, tau)
+// with A = 7.1 - pi and B = tau - 1.222 in the power tables.
+#include <cmath>
+
+#include "regions/constants.h"
+#include "regions/region1_tables.h"
+#include "regions/water_calculator.h"
+
+namespace kvt {
+
+// Fills both tables as far as the shifted exponents reach, runs one pass and
+// returns the derivatives by pi and tau (dA/dpi = -1 turns the sign of the
+// odd pi-derivatives).
+template <int SA, int SB>
+Gibbs WaterCalculator::Region1Sums(double p, double tau) {
+  using namespace region1;
+  constexpr int32_t countA = FillCount(I, SA), countB = FillCount(J, SB);
+  powerA.Fill(7.1 - p / P1STAR, countA);
+  powerB.Fill(tau - 1.222, countB);
+  const TermSums t = SumTerms<SA, SB>(powerA, powerB, N, I, J);
+  return {t.s, -t.sA, t.sAA, t.sB, t.sBB, -t.sAB};
+}
+
+double WaterCalculator::V1PT(double p, double T) {
+  const Gibbs g = Region1Sums<1, 0>(p, TSTAR1 / T);
+  return g.gp * (RGAS / P1STAR) * T;
+}
+
+double WaterCalculator::U1PT(double p, double T) {
+  const double tau = TSTAR1 / T, pi = p / P1STAR;
+  const Gibbs g = Region1Sums<1, 1>(p, tau);
+  return (g.gt * tau - g.gp * pi) * RGAS * T;
+}
+
+double WaterCalculator::S1PT(double p, double T) {
+  const double tau = TSTAR1 / T;
+  const Gibbs g = Region1Sums<0, 1>(p, tau);
+  return (g.gt * tau - g.g) * RGAS;
+}
+
+double WaterCalculator::H1PT(double p, double T) {
+  const Gibbs g = Region1Sums<0, 1>(p, TSTAR1 / T);
+  return g.gt * RGAS * 1386.0;
+}
+
+double WaterCalculator::CP1PT(double p, double T) {
+  const double tau = TSTAR1 / T;
+  const Gibbs g = Region1Sums<0, 2>(p, tau);
+  return -g.gtt * RGAS * tau * tau;
+}
+
+double WaterCalculator::CV1PT(double p, double T) {
+  const double tau = TSTAR1 / T;
+  const Gibbs g = Region1Sums<2, 2>(p, tau);
+  const double d = g.gp - g.gpt * tau;
+  return (d * d / g.gpp - g.gtt * tau * tau) * RGAS;
+}
+
+double WaterCalculator::W1PT(double p, double T) {
+  const double tau = TSTAR1 / T;
+  const Gibbs g = Region1Sums<2, 2>(p, tau);
+  const double d = g.gp - g.gpt * tau;
+  return g.gp * std::sqrt(RGAS * T / (d * d / (g.gtt * tau * tau) - g.gpp));
+}
+
+double WaterCalculator::JOULETHOMPSON1PT(double p, double T) {
+  const double tau = TSTAR1 / T;
+  const Gibbs g = Region1Sums<1, 2>(p, tau);
+  return g.gpt * T / (P1STAR * g.gtt * tau);
+}
+
+double WaterCalculator::VUSHCVWDERPT1PT(double p, double T, Out14& out) {
+  const double tau = (1.0 / T) * TSTAR1;
+  const Gibbs g = Region1Sums<2, 2>(p, tau);
+  GibbsOutputs(g, p, T, tau, P1STAR, TSTAR1, out);
+  return 1.0;
+}
+
+}  // namespace kvt

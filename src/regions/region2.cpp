@@ -1,0 +1,127 @@
+// Region 2, steam: gamma = gamma0 (ideal gas) + gammar (residual), with
+// pi = p / 1 MPa and B = tau - 0.5 in the power tables for the residual pass.
+#include <cmath>
+
+#include "regions/constants.h"
+#include "regions/region2_tables.h"
+#include "regions/water_calculator.h"
+
+namespace kvt {
+
+// Residual part: pi in powerA, tau - 0.5 in powerB.
+template <int SA, int SB>
+Gibbs WaterCalculator::Region2Residual(double p, double tau) {
+  using namespace region2;
+  constexpr int32_t countA = FillCount(I, SA), countB = FillCount(J, SB);
+  powerA.Fill(p / P2STAR, countA);
+  powerB.Fill(tau - 0.5, countB);
+  const TermSums t = SumTerms<SA, SB>(powerA, powerB, N, I, J);
+  return {t.s, t.sA, t.sAA, t.sB, t.sBB, t.sAB};
+}
+
+// Ideal part: adds the nine terms in stored order to gamma and its tau
+// derivatives, reading tau^(J0 - S) from `table` refilled with tau. The log
+// and 1/pi terms are the callers'.
+template <int S>
+void WaterCalculator::Region2Ideal(PowerTable& table, double tau, Gibbs& g) {
+  using namespace region2;
+  constexpr int32_t count = FillCount(J0, S);
+  table.Fill(tau, count);
+  double t[3] = {1.0, 1.0, 1.0};
+  for (int k = 0; k <= S; ++k) t[k] = table.Power(k);
+  for (int i = 0; i < 9; ++i) {
+    const double e = N0[i] * table.Power(J0[i] - S), j = J0[i];
+    g.g += e * t[S];
+    g.gt += j * e * t[S - 1];
+    if constexpr (S >= 2) g.gtt += j * (j - 1) * e * t[S - 2];
+  }
+}
+
+double WaterCalculator::V2PT(double p, double T) {
+  const Gibbs g = Region2Residual<1, 0>(p, TSTAR2 / T);
+  return (g.gp + 1.0 / (p / P2STAR)) / P2STAR * RGAS * T;
+}
+
+double WaterCalculator::U2PT(double p, double T) {
+  const double tau = TSTAR2 / T, pi = p / P2STAR;
+  Gibbs g = Region2Residual<1, 1>(p, tau);
+  // The ideal tau-derivative by square-and-multiply powers, without a table.
+  for (int i = 0; i < 9; ++i) {
+    const int32_t e = region2::J0[i] - 1;
+    uint32_t bits = static_cast<uint32_t>(e < 0 ? -e : e);
+    double power = 1.0, square = tau;
+    while (bits != 0) {
+      if (bits & 1u) power *= square;
+      square *= square;
+      bits >>= 1;
+    }
+    if (e < 0) power = 1.0 / power;
+    g.gt += region2::J0[i] * region2::N0[i] * power;
+  }
+  g.gp += 1.0 / pi;
+  return (g.gt * tau - g.gp * pi) * RGAS * T;
+}
+
+double WaterCalculator::S2PT(double p, double T) {
+  const double tau = TSTAR2 / T;
+  Gibbs g = Region2Residual<0, 1>(p, tau);
+  Region2Ideal<1>(powerA, tau, g);
+  g.g += std::log(p / P2STAR);
+  return (tau * g.gt - g.g) * RGAS;
+}
+
+double WaterCalculator::H2PT(double p, double T) {
+  const double tau = TSTAR2 / T;
+  Gibbs g = Region2Residual<0, 1>(p, tau);
+  Region2Ideal<1>(powerA, tau, g);
+  return g.gt * RGAS * 540.0;
+}
+
+double WaterCalculator::CP2PT(double p, double T) {
+  const double tau = TSTAR2 / T;
+  Gibbs g = Region2Residual<0, 2>(p, tau);
+  Region2Ideal<2>(powerA, tau, g);
+  return -g.gtt * RGAS * tau * tau;
+}
+
+// cv and w need gamma_pi and gamma_pipi, where the ideal part is 1/pi and
+// -1/pi^2, and gamma_tautau.
+double WaterCalculator::CV2PT(double p, double T) {
+  const double tau = TSTAR2 / T, pi = p / P2STAR;
+  Gibbs g = Region2Residual<2, 2>(p, tau);
+  Region2Ideal<2>(powerA, tau, g);
+  g.gp += 1.0 / pi;
+  g.gpp -= 1.0 / (pi * pi);
+  const double d = g.gp - g.gpt * tau;
+  return (d * d / g.gpp - g.gtt * tau * tau) * RGAS;
+}
+
+double WaterCalculator::W2PT(double p, double T) {
+  const double tau = TSTAR2 / T, pi = p / P2STAR;
+  Gibbs g = Region2Residual<2, 2>(p, tau);
+  Region2Ideal<2>(powerA, tau, g);
+  g.gp += 1.0 / pi;
+  g.gpp -= 1.0 / (pi * pi);
+  const double d = g.gp - g.gpt * tau;
+  return g.gp * std::sqrt(RGAS * T / (d * d / (g.gtt * tau * tau) - g.gpp));
+}
+
+double WaterCalculator::JOULETHOMPSON2PT(double p, double T) {
+  const double tau = TSTAR2 / T;
+  Gibbs g = Region2Residual<1, 2>(p, tau);
+  Region2Ideal<2>(powerA, tau, g);
+  return g.gpt * T / (P2STAR * g.gtt * tau);
+}
+
+double WaterCalculator::VUSHCVWDERPT2PT(double p, double T, Out14& out) {
+  const double tau = TSTAR2 / T, pi = p / P2STAR;
+  Gibbs g = Region2Residual<2, 2>(p, tau);
+  Region2Ideal<2>(powerB, tau, g);
+  g.g += std::log(pi);
+  g.gp += 1.0 / pi;
+  g.gpp -= 1.0 / (pi * pi);
+  GibbsOutputs(g, p, T, tau, P2STAR, TSTAR2, out);
+  return 1.0;
+}
+
+}  // namespace kvt
