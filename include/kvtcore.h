@@ -82,6 +82,16 @@
  */
 /* X(ordinal, name, shape, rule, core, "arguments [units]: result [unit]") */
 #define KVT_CATALOGUE(X) \
+  /* ---- Composites by p, T ---- */ \
+  /* ---- Composites by p, T, x ---- */ \
+  /* ---- Composites by p, h ---- */ \
+  /* ---- Composites by p, s ---- */ \
+  /* ---- Composites by h, s ---- */ \
+  /* ---- Expansion ---- */ \
+  /* ---- Metastable steam ---- */ \
+  /* ---- Saturated steam, saturated water, wet steam, dryness ---- */ \
+  /* ---- State areas and boundary curves ---- */ \
+  /* ---- Saturation line, transport and auxiliary curves ---- */ \
   /* Region 1 equation by p, T, without a region test */ \
   X(104, kvtV1PT, D2, None, WaterCalculator::V1PT, "p [Pa], T [K]: specific volume [m3/kg]") \
   X(105, kvtU1PT, D2, None, WaterCalculator::U1PT, "p [Pa], T [K]: internal energy [J/kg]") \
@@ -102,6 +112,14 @@
   X(119, kvtW2PT, D2, None, WaterCalculator::W2PT, "p [Pa], T [K]: speed of sound [m/s]") \
   X(120, kvtJOULETHOMPSON2PT, D2, None, WaterCalculator::JOULETHOMPSON2PT, "p [Pa], T [K]: Joule-Thomson coefficient [K/Pa]") \
   X(121, kvtVUSHCVWDERPT2PT, M2, None, WaterCalculator::VUSHCVWDERPT2PT, "p [Pa], T [K]: the 14 outputs") \
+  /* ---- Region 1 inversions ---- */ \
+  /* ---- Region 2 inversions ---- */ \
+  /* ---- Region 3 ---- */ \
+  /* ---- Region 3 inversions ---- */ \
+  /* ---- Region 5 ---- */ \
+  /* ---- Region 5 inversions ---- */ \
+  /* ---- Help and about ---- */ \
+  /* ---- Gases ---- */ \
   /* Settings, last error and constants */ \
   X(229, kvtSETTOLERANCE, D1, None, Engine::SETTOLERANCE, "relative tolerance: the value stored") \
   X(230, kvtGETTOLERANCE, D0, Getter, Engine::GETTOLERANCE, ": relative tolerance") \
