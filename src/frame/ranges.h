@@ -8,7 +8,69 @@
 namespace kvt {
 class Engine;
 
+// Bounds of the water families. All are inclusive: a value equal to a bound
+// passes. The lowest pressure is the saturation pressure at 273.15 K while
+// the lowest temperature is 273.16 K less a hair; the two do not describe one
+// point, and that stays.
+constexpr double kTMin = 273.15999999999;       // K
+constexpr double kPMin = 611.212677444343;      // Pa
+constexpr double kPMax = 100000000.0;           // Pa
+constexpr double kTMax = 2273.15;               // K
+constexpr double kTSplit = 1073.15;             // K; above it the pressure limit drops
+constexpr double kPHighT = 10000000.0;          // Pa; pressure limit above kTSplit
+constexpr double kTCrit = 647.096;              // K; top of the saturation families
+constexpr double kPCrit = 22064000.0;           // Pa; top of kvtTSP
+
 namespace rules {
+
+// The tests of the p,T rule, split where other rules insert their own.
+inline bool PTBase(double p, double T) {
+  return T < kTMin || T > kTMax || p < kPMin || p > kPMax;
+}
+inline bool HighT(double p, double T) { return T > kTSplit && p > kPHighT; }
+inline bool Dryness(double x) { return x < 0 || x > 1; }
+
+// Saturation families by T.
+struct T {
+  template <class... X>
+  static bool Fails(Engine&, double t, X&&...) { return t > kTCrit || t < kTMin; }
+};
+
+// kvtTSP.
+struct P {
+  template <class... X>
+  static bool Fails(Engine&, double p, X&&...) { return p > kPCrit || p < kPMin; }
+};
+
+// Water by p, T.
+struct PT {
+  template <class... X>
+  static bool Fails(Engine&, double p, double t, X&&...) {
+    return PTBase(p, t) || HighT(p, t);
+  }
+};
+
+// Water by p, T, x.
+struct PTX {
+  template <class... X>
+  static bool Fails(Engine&, double p, double t, double x, X&&...) {
+    return PTBase(p, t) || Dryness(x) || HighT(p, t);
+  }
+};
+
+// Wet steam by T, x.
+struct TX {
+  template <class... X>
+  static bool Fails(Engine& e, double t, double x, X&&...) {
+    return T::Fails(e, t) || Dryness(x);
+  }
+};
+
+// Dryness from T and a property: only T is tested.
+struct XST {
+  template <class... X>
+  static bool Fails(Engine& e, double t, X&&...) { return T::Fails(e, t); }
+};
 
 // No comparison in any mode.
 struct None {
