@@ -91,7 +91,14 @@
   /* ---- Metastable steam ---- */ \
   /* ---- Saturated steam, saturated water, wet steam, dryness ---- */ \
   /* ---- State areas and boundary curves ---- */ \
+  X(251, kvtROUGHRSST, D1, T, WaterCalculator::ROUGHRSST, "T [K]: rough saturated steam density [kg/m3]") \
+  X(252, kvtROUGHRSWT, D1, T, WaterCalculator::ROUGHRSWT, "T [K]: rough saturated water density [kg/m3]") \
+  X(265, kvtROUGHHSSS, D1, None, WaterCalculator::ROUGHHSSS, "s [J/(kg K)]: rough saturated steam enthalpy [J/kg]") \
+  X(266, kvtROUGHHSWS, D1, None, WaterCalculator::ROUGHHSWS, "s [J/(kg K)]: rough saturated water enthalpy [J/kg]") \
   /* ---- Saturation line, transport and auxiliary curves ---- */ \
+  X(169, kvtPST, D1, T, WaterCalculator::PST, "T [K]: saturation pressure [Pa]") \
+  X(170, kvtDPDTST, D1, T, WaterCalculator::DPDTST, "T [K]: slope of the saturation line dp/dT [Pa/K]") \
+  X(171, kvtTSP, D1, P, WaterCalculator::TSP, "p [Pa]: saturation temperature [K]") \
   /* Region 1 equation by p, T, without a region test */ \
   X(104, kvtV1PT, D2, None, WaterCalculator::V1PT, "p [Pa], T [K]: specific volume [m3/kg]") \
   X(105, kvtU1PT, D2, None, WaterCalculator::U1PT, "p [Pa], T [K]: internal energy [J/kg]") \
@@ -115,6 +122,27 @@
   /* ---- Region 1 inversions ---- */ \
   /* ---- Region 2 inversions ---- */ \
   /* ---- Region 3 ---- */ \
+  /* Region 3 equation by density, T, and by p, T through the density solve */ \
+  X(122, kvtP3RT, D2, None, WaterCalculator::P3RT, "rho [kg/m3], T [K]: pressure [Pa]") \
+  X(123, kvtR3PTR0, D3, None, WaterCalculator::R3PTR0, "p [Pa], T [K], start density [kg/m3]: density [kg/m3]") \
+  X(124, kvtR3PT, D2, None, WaterCalculator::R3PT, "p [Pa], T [K]: density [kg/m3]") \
+  X(125, kvtU3RT, D2, None, WaterCalculator::U3RT, "rho [kg/m3], T [K]: internal energy [J/kg]") \
+  X(126, kvtS3RT, D2, None, WaterCalculator::S3RT, "rho [kg/m3], T [K]: entropy [J/(kg K)]") \
+  X(127, kvtH3RT, D2, None, WaterCalculator::H3RT, "rho [kg/m3], T [K]: enthalpy [J/kg]") \
+  X(128, kvtCP3RT, D2, None, WaterCalculator::CP3RT, "rho [kg/m3], T [K]: cp [J/(kg K)]") \
+  X(129, kvtCV3RT, D2, None, WaterCalculator::CV3RT, "rho [kg/m3], T [K]: cv [J/(kg K)]") \
+  X(130, kvtW3RT, D2, None, WaterCalculator::W3RT, "rho [kg/m3], T [K]: speed of sound [m/s]") \
+  X(131, kvtVUSHCVWDERPT3RT, M2, None, WaterCalculator::VUSHCVWDERPT3RT, "rho [kg/m3], T [K]: the 14 outputs") \
+  X(132, kvtV3PT, D2, None, WaterCalculator::V3PT, "p [Pa], T [K]: specific volume [m3/kg]") \
+  X(133, kvtU3PT, D2, None, WaterCalculator::U3PT, "p [Pa], T [K]: internal energy [J/kg]") \
+  X(134, kvtS3PT, D2, None, WaterCalculator::S3PT, "p [Pa], T [K]: entropy [J/(kg K)]") \
+  X(135, kvtH3PT, D2, None, WaterCalculator::H3PT, "p [Pa], T [K]: enthalpy [J/kg]") \
+  X(136, kvtCP3PT, D2, None, WaterCalculator::CP3PT, "p [Pa], T [K]: cp [J/(kg K)]") \
+  X(137, kvtCV3PT, D2, None, WaterCalculator::CV3PT, "p [Pa], T [K]: cv [J/(kg K)]") \
+  X(138, kvtW3PT, D2, None, WaterCalculator::W3PT, "p [Pa], T [K]: speed of sound [m/s]") \
+  X(139, kvtJOULETHOMPSON3RT, D2, None, WaterCalculator::JOULETHOMPSON3RT, "rho [kg/m3], T [K]: Joule-Thomson coefficient [K/Pa]") \
+  X(140, kvtJOULETHOMPSON3PT, D2, None, WaterCalculator::JOULETHOMPSON3PT, "p [Pa], T [K]: Joule-Thomson coefficient [K/Pa]") \
+  X(141, kvtVUSHCVWDERPT3PT, M2, None, WaterCalculator::VUSHCVWDERPT3PT, "p [Pa], T [K]: the 14 outputs") \
   /* ---- Region 3 inversions ---- */ \
   /* ---- Region 5 ---- */ \
   /* ---- Region 5 inversions ---- */ \

@@ -47,8 +47,40 @@ class WaterCalculator {
   // ---- Region 5 by p, T ----
 
   // ---- Region 3 by density, T and by p, T ----
+  double P3RT(double rho, double T);
+  double U3RT(double rho, double T);
+  double S3RT(double rho, double T);
+  double H3RT(double rho, double T);
+  double CP3RT(double rho, double T);
+  double CV3RT(double rho, double T);
+  double W3RT(double rho, double T);
+  double JOULETHOMPSON3RT(double rho, double T);
+  double VUSHCVWDERPT3RT(double rho, double T, Out14& out);
+  // The density fit: which of its seven areas a state falls in, and the
+  // estimated specific volume there.
+  int32_t V3ESTAREA(double p, double T);
+  double V3EST(double p, double T);
+  double R3PTR0(double p, double T, double rho0);
+  double R3PT(double p, double T);
+  double V3PT(double p, double T);
+  double U3PT(double p, double T);
+  double S3PT(double p, double T);
+  double H3PT(double p, double T);
+  double CP3PT(double p, double T);
+  double CV3PT(double p, double T);
+  double W3PT(double p, double T);
+  double JOULETHOMPSON3PT(double p, double T);
+  double VUSHCVWDERPT3PT(double p, double T, Out14& out);
 
   // ---- Saturation line ----
+  double PST(double T) const;
+  double TSP(double p) const;
+  double DPDTST(double T) const;
+  double ROUGHRSWT(double T);
+  double ROUGHRSST(double T);
+  double ROUGHHSWS(double s);
+  double ROUGHHSSS(double s);
+  double TSATHS(double h, double s);
 
   // ---- Saturated phases and wet steam ----
 
