@@ -50,8 +50,11 @@ Gibbs WaterCalculator::Region5Sums(double pi, double tau, Gibbs start, int32_t c
 }
 
 namespace {
-// The parts of gamma0 and its pi-derivatives that do not depend on tau.
-Gibbs IdealStart(double pi) { return {std::log(pi), 1.0 / pi, -1.0 / (pi * pi), 0, 0, 0}; }
+// The parts of gamma_pi and gamma_pipi that do not depend on tau, and of
+// gamma itself when it is wanted.
+Gibbs IdealStart(double pi, bool withLog) {
+  return {withLog ? std::log(pi) : 0.0, 1.0 / pi, -1.0 / (pi * pi), 0, 0, 0};
+}
 }  // namespace
 
 double WaterCalculator::V5PT(double p, double T) {
@@ -85,14 +88,14 @@ double WaterCalculator::CP5PT(double p, double T) {
 
 double WaterCalculator::CV5PT(double p, double T) {
   const double pi = p / P5STAR, tau = TSTAR5 / T;
-  const Gibbs g = Region5Sums<2, 2>(pi, tau, IdealStart(pi), 7);
+  const Gibbs g = Region5Sums<2, 2>(pi, tau, IdealStart(pi, false), 7);
   const double d = g.gp - g.gpt * tau;
   return (d * d / g.gpp - g.gtt * tau * tau) * RGAS;
 }
 
 double WaterCalculator::W5PT(double p, double T) {
   const double pi = p / P5STAR, tau = TSTAR5 / T;
-  const Gibbs g = Region5Sums<2, 2>(pi, tau, IdealStart(pi), 7);
+  const Gibbs g = Region5Sums<2, 2>(pi, tau, IdealStart(pi, false), 7);
   const double d = g.gp - g.gpt * tau;
   return g.gp * std::sqrt(RGAS * T / (d * d / (g.gtt * tau * tau) - g.gpp));
 }
@@ -122,7 +125,7 @@ double WaterCalculator::JOULETHOMPSON5PT(double p, double T) {
 
 double WaterCalculator::VUSHCVWDERPT5PT(double p, double T, Out14& out) {
   const double pi = p / P5STAR, tau = TSTAR5 / T;
-  const Gibbs g = Region5Sums<2, 2>(pi, tau, IdealStart(pi), 7);
+  const Gibbs g = Region5Sums<2, 2>(pi, tau, IdealStart(pi, true), 7);
   GibbsOutputs(g, p, T, tau, P5STAR, TSTAR5, out);
   return 1.0;
 }
