@@ -99,6 +99,17 @@
   X(169, kvtPST, D1, T, WaterCalculator::PST, "T [K]: saturation pressure [Pa]") \
   X(170, kvtDPDTST, D1, T, WaterCalculator::DPDTST, "T [K]: slope of the saturation line dp/dT [Pa/K]") \
   X(171, kvtTSP, D1, P, WaterCalculator::TSP, "p [Pa]: saturation temperature [K]") \
+  X(98, kvtP23T, D1, None, WaterCalculator::P23T, "T [K]: pressure on the region 2/3 boundary [Pa]") \
+  X(99, kvtT23P, D1, None, WaterCalculator::T23P, "p [Pa]: temperature on the region 2/3 boundary [K]") \
+  X(268, kvtTB23HS, D2, None, WaterCalculator::TB23HS, "h [J/kg], s [J/(kg K)]: temperature near the region 2/3 boundary [K]") \
+  X(269, kvtPB23HS, D2, None, WaterCalculator::PB23HS, "h [J/kg], s [J/(kg K)]: pressure near the region 2/3 boundary [Pa]") \
+  X(270, kvtHB13S, D1, None, WaterCalculator::HB13S, "s [J/(kg K)]: enthalpy on the region 1/3 boundary [J/kg]") \
+  /* ---- Saturation line, transport and auxiliary curves ---- */ \
+  X(1, kvtSURFTENT, D1, T, WaterCalculator::SURFTENT, "T [K]: surface tension [N/m]") \
+  X(102, kvtTHERMCONDRT, D2, None, WaterCalculator::THERMCONDRT, "density [kg/m3], T [K]: thermal conductivity [W/(m K)]") \
+  X(103, kvtDYNVISRT, D2, None, WaterCalculator::DYNVISRT, "density [kg/m3], T [K]: dynamic viscosity [Pa s]") \
+  X(304, kvtPSUBT, D1, None, IceCalculator::PSUBT, "T [K]: sublimation pressure of ice Ih [Pa]") \
+  X(305, kvtPMELTIT, D1, None, IceCalculator::PMELTIT, "T [K]: melting pressure of ice Ih [Pa]") \
   /* Region 1 equation by p, T, without a region test */ \
   X(104, kvtV1PT, D2, None, WaterCalculator::V1PT, "p [Pa], T [K]: specific volume [m3/kg]") \
   X(105, kvtU1PT, D2, None, WaterCalculator::U1PT, "p [Pa], T [K]: internal energy [J/kg]") \
@@ -145,6 +156,15 @@
   X(141, kvtVUSHCVWDERPT3PT, M2, None, WaterCalculator::VUSHCVWDERPT3PT, "p [Pa], T [K]: the 14 outputs") \
   /* ---- Region 3 inversions ---- */ \
   /* ---- Region 5 ---- */ \
+  X(142, kvtV5PT, D2, None, WaterCalculator::V5PT, "p [Pa], T [K]: specific volume [m3/kg]") \
+  X(143, kvtU5PT, D2, None, WaterCalculator::U5PT, "p [Pa], T [K]: internal energy [J/kg]") \
+  X(144, kvtS5PT, D2, None, WaterCalculator::S5PT, "p [Pa], T [K]: entropy [J/(kg K)]") \
+  X(145, kvtH5PT, D2, None, WaterCalculator::H5PT, "p [Pa], T [K]: enthalpy [J/kg]") \
+  X(146, kvtCP5PT, D2, None, WaterCalculator::CP5PT, "p [Pa], T [K]: cp [J/(kg K)]") \
+  X(147, kvtCV5PT, D2, None, WaterCalculator::CV5PT, "p [Pa], T [K]: cv [J/(kg K)]") \
+  X(148, kvtW5PT, D2, None, WaterCalculator::W5PT, "p [Pa], T [K]: speed of sound [m/s]") \
+  X(149, kvtJOULETHOMPSON5PT, D2, None, WaterCalculator::JOULETHOMPSON5PT, "p [Pa], T [K]: Joule-Thomson coefficient [K/Pa]") \
+  X(150, kvtVUSHCVWDERPT5PT, M2, None, WaterCalculator::VUSHCVWDERPT5PT, "p [Pa], T [K]: the 14 outputs") \
   /* ---- Region 5 inversions ---- */ \
   /* ---- Help and about ---- */ \
   /* ---- Gases ---- */ \

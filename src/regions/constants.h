@@ -22,5 +22,6 @@ constexpr double P5MAX = 10000000.0;               // top pressure of region 5, 
 constexpr double P2AB = 4000000.0;                 // sub-regions 2a / 2b, Pa
 constexpr double PSAT350 = 16529164.252621602;     // saturation pressure at 623.15 K, Pa
 constexpr double VCRIT = 0.003105590062111801;     // 1 / 322, m3/kg
+constexpr double SURFTENB = 0.2358;                // surface tension scale B, N/m (IAPWS 1994)
 
 }  // namespace kvt

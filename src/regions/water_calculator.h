@@ -45,6 +45,15 @@ class WaterCalculator {
   double VUSHCVWDERPT2PT(double p, double T, Out14& out);
 
   // ---- Region 5 by p, T ----
+  double V5PT(double p, double T);
+  double U5PT(double p, double T);
+  double S5PT(double p, double T);
+  double H5PT(double p, double T);
+  double CP5PT(double p, double T);
+  double CV5PT(double p, double T);
+  double W5PT(double p, double T);
+  double JOULETHOMPSON5PT(double p, double T);
+  double VUSHCVWDERPT5PT(double p, double T, Out14& out);
 
   // ---- Region 3 by density, T and by p, T ----
   double P3RT(double rho, double T);
@@ -85,6 +94,11 @@ class WaterCalculator {
   // ---- Saturated phases and wet steam ----
 
   // ---- Boundary curves ----
+  double P23T(double T);
+  double T23P(double p);
+  double HB13S(double s);
+  double TB23HS(double h, double s);
+  double PB23HS(double h, double s);
 
   // ---- State areas ----
 
@@ -99,6 +113,9 @@ class WaterCalculator {
   // ---- Expansion and metastable steam ----
 
   // ---- Transport ----
+  double THERMCONDRT(double rho, double T);
+  double DYNVISRT(double rho, double T);
+  double SURFTENT(double T);
 
   PowerTable powerA;
   PowerTable powerB;
@@ -111,6 +128,8 @@ class WaterCalculator {
   Gibbs Region2Residual(double p, double tau);
   template <int S>
   void Region2Ideal(PowerTable& table, double tau, Gibbs& g);
+  template <int SA, int SB>
+  Gibbs Region5Sums(double pi, double tau, Gibbs start, int32_t countB);
 };
 
 }  // namespace kvt

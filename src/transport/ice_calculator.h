@@ -12,6 +12,11 @@ class IceCalculator {
   IceCalculator(const IceCalculator&) = delete;
   IceCalculator& operator=(const IceCalculator&) = delete;
 
+  // Sublimation pressure over ice Ih and melting pressure of ice Ih, Pa, by
+  // T in K (the 1993 IAPWS release). Pure functions of T.
+  double PSUBT(double T);
+  double PMELTIT(double T);
+
   Engine* engine;
 };
 

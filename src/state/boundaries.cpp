@@ -1,0 +1,40 @@
+// Boundary curves between the regions: B23 in the p,T plane, and the region
+// 1/3 and 2/3 boundaries in the h,s plane. Closed forms, no iteration; the
+// h,s curves read their powers from the water calculator's tables.
+#include <cmath>
+
+#include "regions/water_calculator.h"
+#include "state/boundaries_tables.h"
+
+namespace kvt {
+
+using namespace boundaries;
+
+double WaterCalculator::P23T(double T) { return 1000000.0 * ((B23N3 * T + B23N2) * T + B23N1); }
+
+// No test of p: below n5 MPa the root is of a negative number, and the
+// non-finite result is the caller's error 1.
+double WaterCalculator::T23P(double p) {
+  return B23N4 + std::sqrt((p / 1000000.0 - B23N5) / B23N3);
+}
+
+double WaterCalculator::HB13S(double s) {
+  const double sigma = s / 3800.0;
+  powerA.Fill(sigma - 0.884, FillCount(HB13I, 0));
+  powerB.Fill(sigma - 0.864, FillCount(HB13J, 0));
+  return 1700000.0 * SumTerms<0, 0>(powerA, powerB, HB13N, HB13I, HB13J).s;
+}
+
+double WaterCalculator::TB23HS(double h, double s) {
+  powerA.Fill(h / 3000000.0 - 0.727, FillCount(TB23I, 0));
+  powerB.Fill(s / 5300.0 - 0.864, FillCount(TB23J, 0));
+  return 900.0 * SumTerms<0, 0>(powerA, powerB, TB23N, TB23I, TB23J).s;
+}
+
+double WaterCalculator::PB23HS(double h, double s) {
+  powerA.Fill(h / 3000000.0 - 0.709, FillCount(PB23I, 0));
+  powerB.Fill(s / 5300.0 - 0.824, FillCount(PB23J, 0));
+  return 100000000.0 * SumTerms<0, 0>(powerA, powerB, PB23N, PB23I, PB23J).s;
+}
+
+}  // namespace kvt
