@@ -5,8 +5,9 @@
 // Arguments a rule does not name (output slots and the like) are ignored.
 #pragma once
 
+#include "frame/engine.h"
+
 namespace kvt {
-class Engine;
 
 // Bounds of the water families. All are inclusive: a value equal to a bound
 // passes. The lowest pressure is the saturation pressure at 273.15 K while
@@ -82,6 +83,52 @@ struct None {
 // reads with no guarded region; Plain leaves the error code as it stands.
 struct Getter {};
 struct Plain {};
+
+// Water by p, h. The margin F = 1 + tolerance widens the enthalpy bounds,
+// which are the region 1 value at the lowest temperature and the region 5 (or,
+// above 10 MPa, region 2) value at the highest. F multiplies h itself on the
+// lower side, so for a negative h the margin works against the caller.
+struct PH {
+  template <class... X>
+  static bool Fails(Engine& e, double p, double h, X&&...) {
+    if (p < kPMin || p > kPMax) return true;
+    const double F = 1 + e.tolerance;
+    if (F * h < e.water.H1PT(p, kTMin)) return true;
+    const double hmax = p <= kPHighT ? e.water.H5PT(p, kTMax) : e.water.H2PT(p, kTSplit);
+    return h > F * hmax;
+  }
+};
+
+// Water by p, s: as by p, h, but the lower side takes care of the sign of s.
+struct PS {
+  template <class... X>
+  static bool Fails(Engine& e, double p, double s, X&&...) {
+    if (p < kPMin || p > kPMax) return true;
+    const double F = 1 + e.tolerance;
+    const double G = s > 0 ? F : 1 / F;
+    if (G * s < e.water.S1PT(p, kTMin)) return true;
+    const double smax = p <= kPHighT ? e.water.S5PT(p, kTMax) : e.water.S2PT(p, kTSplit);
+    return s > F * smax;
+  }
+};
+
+inline bool Pressure(double p) { return p < kPMin || p > kPMax; }
+
+// Expansion from (p, T) to p2 with an efficiency; the efficiency is free.
+struct EXP {
+  template <class... X>
+  static bool Fails(Engine&, double p, double t, double p2, X&&...) {
+    return PTBase(p, t) || Pressure(p2) || HighT(p, t);
+  }
+};
+
+// Expansion from (p, T, x) to p2 with an efficiency.
+struct EXPX {
+  template <class... X>
+  static bool Fails(Engine&, double p, double t, double x, double p2, X&&...) {
+    return PTBase(p, t) || Pressure(p2) || Dryness(x) || HighT(p, t);
+  }
+};
 
 }  // namespace rules
 }  // namespace kvt
