@@ -83,18 +83,110 @@
 /* X(ordinal, name, shape, rule, core, "arguments [units]: result [unit]") */
 #define KVT_CATALOGUE(X) \
   /* ---- Composites by p, T ---- */ \
+  X(2, kvtVUSHCVWDERPTPT, M2, PT, WaterCalculator::VUSHCVWDERPTPT, "p [Pa], T [K]: the 14 outputs") \
+  X(3, kvtVPT, D2, PT, WaterCalculator::VPT, "p [Pa], T [K]: specific volume [m3/kg]") \
+  X(4, kvtUPT, D2, PT, WaterCalculator::UPT, "p [Pa], T [K]: internal energy [J/kg]") \
+  X(5, kvtSPT, D2, PT, WaterCalculator::SPT, "p [Pa], T [K]: entropy [J/(kg K)]") \
+  X(6, kvtHPT, D2, PT, WaterCalculator::HPT, "p [Pa], T [K]: enthalpy [J/kg]") \
+  X(7, kvtCPPT, D2, PT, WaterCalculator::CPPT, "p [Pa], T [K]: cp [J/(kg K)]") \
+  X(8, kvtCVPT, D2, PT, WaterCalculator::CVPT, "p [Pa], T [K]: cv [J/(kg K)]") \
+  X(9, kvtWPT, D2, PT, WaterCalculator::WPT, "p [Pa], T [K]: speed of sound [m/s]") \
+  X(10, kvtJOULETHOMPSONPT, D2, PT, WaterCalculator::JOULETHOMPSONPT, "p [Pa], T [K]: Joule-Thomson coefficient [K/Pa]") \
+  X(11, kvtTHERMCONDPT, D2, PT, WaterCalculator::THERMCONDPT, "p [Pa], T [K]: thermal conductivity [W/(m K)]") \
+  X(12, kvtDYNVISPT, D2, PT, WaterCalculator::DYNVISPT, "p [Pa], T [K]: dynamic viscosity [Pa s]") \
+  X(13, kvtPRANDTLEPT, D2, PT, WaterCalculator::PRANDTLEPT, "p [Pa], T [K]: Prandtl number [-]") \
+  X(14, kvtKINVISPT, D2, PT, WaterCalculator::KINVISPT, "p [Pa], T [K]: kinematic viscosity [m2/s]") \
+  X(15, kvtKPT, D2, PT, WaterCalculator::KPT, "p [Pa], T [K]: isentropic exponent [-]") \
   /* ---- Composites by p, T, x ---- */ \
+  X(16, kvtVPTX, D3, PTX, WaterCalculator::VPTX, "p [Pa], T [K], x [-]: specific volume [m3/kg]") \
+  X(17, kvtUPTX, D3, PTX, WaterCalculator::UPTX, "p [Pa], T [K], x [-]: internal energy [J/kg]") \
+  X(18, kvtSPTX, D3, PTX, WaterCalculator::SPTX, "p [Pa], T [K], x [-]: entropy [J/(kg K)]") \
+  X(19, kvtHPTX, D3, PTX, WaterCalculator::HPTX, "p [Pa], T [K], x [-]: enthalpy [J/kg]") \
+  X(20, kvtCPPTX, D3, PTX, WaterCalculator::CPPTX, "p [Pa], T [K], x [-]: cp [J/(kg K)]") \
+  X(21, kvtCVPTX, D3, PTX, WaterCalculator::CVPTX, "p [Pa], T [K], x [-]: cv [J/(kg K)]") \
+  X(22, kvtWPTX, D3, PTX, WaterCalculator::WPTX, "p [Pa], T [K], x [-]: speed of sound [m/s]") \
+  X(23, kvtJOULETHOMPSONPTX, D3, PTX, WaterCalculator::JOULETHOMPSONPTX, "p [Pa], T [K], x [-]: Joule-Thomson coefficient [K/Pa]") \
+  X(24, kvtTHERMCONDPTX, D3, PTX, WaterCalculator::THERMCONDPTX, "p [Pa], T [K], x [-]: thermal conductivity [W/(m K)]") \
+  X(25, kvtDYNVISPTX, D3, PTX, WaterCalculator::DYNVISPTX, "p [Pa], T [K], x [-]: dynamic viscosity [Pa s]") \
+  X(26, kvtPRANDTLEPTX, D3, PTX, WaterCalculator::PRANDTLEPTX, "p [Pa], T [K], x [-]: Prandtl number [-]") \
+  X(27, kvtKINVISPTX, D3, PTX, WaterCalculator::KINVISPTX, "p [Pa], T [K], x [-]: kinematic viscosity [m2/s]") \
+  X(28, kvtKPTX, D3, PTX, WaterCalculator::KPTX, "p [Pa], T [K], x [-]: isentropic exponent [-]") \
   /* ---- Composites by p, h ---- */ \
   /* ---- Composites by p, s ---- */ \
   /* ---- Composites by h, s ---- */ \
   /* ---- Expansion ---- */ \
   /* ---- Metastable steam ---- */ \
   /* ---- Saturated steam, saturated water, wet steam, dryness ---- */ \
+  X(172, kvtVSST, D1, T, WaterCalculator::VSST, "T [K]: specific volume [m3/kg] of saturated steam") \
+  X(173, kvtVSWT, D1, T, WaterCalculator::VSWT, "T [K]: specific volume [m3/kg] of saturated water") \
+  X(174, kvtUSST, D1, T, WaterCalculator::USST, "T [K]: internal energy [J/kg] of saturated steam") \
+  X(175, kvtUSWT, D1, T, WaterCalculator::USWT, "T [K]: internal energy [J/kg] of saturated water") \
+  X(176, kvtSSST, D1, T, WaterCalculator::SSST, "T [K]: entropy [J/(kg K)] of saturated steam") \
+  X(177, kvtSSWT, D1, T, WaterCalculator::SSWT, "T [K]: entropy [J/(kg K)] of saturated water") \
+  X(178, kvtHSST, D1, T, WaterCalculator::HSST, "T [K]: enthalpy [J/kg] of saturated steam") \
+  X(179, kvtHSWT, D1, T, WaterCalculator::HSWT, "T [K]: enthalpy [J/kg] of saturated water") \
+  X(180, kvtCPSST, D1, T, WaterCalculator::CPSST, "T [K]: cp [J/(kg K)] of saturated steam") \
+  X(181, kvtCPSWT, D1, T, WaterCalculator::CPSWT, "T [K]: cp [J/(kg K)] of saturated water") \
+  X(182, kvtCVSST, D1, T, WaterCalculator::CVSST, "T [K]: cv [J/(kg K)] of saturated steam") \
+  X(183, kvtCVSWT, D1, T, WaterCalculator::CVSWT, "T [K]: cv [J/(kg K)] of saturated water") \
+  X(184, kvtCVDPSST, D1, T, WaterCalculator::CVDPSST, "T [K]: two-phase cv [J/(kg K)] of saturated steam") \
+  X(185, kvtCVDPSWT, D1, T, WaterCalculator::CVDPSWT, "T [K]: two-phase cv [J/(kg K)] of saturated water") \
+  X(186, kvtWSST, D1, T, WaterCalculator::WSST, "T [K]: speed of sound [m/s] of saturated steam") \
+  X(187, kvtWSWT, D1, T, WaterCalculator::WSWT, "T [K]: speed of sound [m/s] of saturated water") \
+  X(188, kvtJOULETHOMPSONSST, D1, T, WaterCalculator::JOULETHOMPSONSST, "T [K]: Joule-Thomson coefficient [K/Pa] of saturated steam") \
+  X(189, kvtJOULETHOMPSONSWT, D1, T, WaterCalculator::JOULETHOMPSONSWT, "T [K]: Joule-Thomson coefficient [K/Pa] of saturated water") \
+  X(190, kvtTHERMCONDSST, D1, T, WaterCalculator::THERMCONDSST, "T [K]: thermal conductivity [W/(m K)] of saturated steam") \
+  X(191, kvtTHERMCONDSWT, D1, T, WaterCalculator::THERMCONDSWT, "T [K]: thermal conductivity [W/(m K)] of saturated water") \
+  X(192, kvtDYNVISSST, D1, T, WaterCalculator::DYNVISSST, "T [K]: dynamic viscosity [Pa s] of saturated steam") \
+  X(193, kvtDYNVISSWT, D1, T, WaterCalculator::DYNVISSWT, "T [K]: dynamic viscosity [Pa s] of saturated water") \
+  X(194, kvtPRANDTLESST, D1, T, WaterCalculator::PRANDTLESST, "T [K]: Prandtl number [-] of saturated steam") \
+  X(195, kvtPRANDTLESWT, D1, T, WaterCalculator::PRANDTLESWT, "T [K]: Prandtl number [-] of saturated water") \
+  X(196, kvtKINVISSST, D1, T, WaterCalculator::KINVISSST, "T [K]: kinematic viscosity [m2/s] of saturated steam") \
+  X(197, kvtKINVISSWT, D1, T, WaterCalculator::KINVISSWT, "T [K]: kinematic viscosity [m2/s] of saturated water") \
+  X(198, kvtKSST, D1, T, WaterCalculator::KSST, "T [K]: isentropic exponent [-] of saturated steam") \
+  X(199, kvtKSWT, D1, T, WaterCalculator::KSWT, "T [K]: isentropic exponent [-] of saturated water") \
+  X(200, kvtRST, D1, T, WaterCalculator::RST, "T [K]: heat of vaporisation [J/kg]") \
+  X(201, kvtVUSHCVWDERPTSWT, M1, T, WaterCalculator::VUSHCVWDERPTSWT, "T [K]: the 14 outputs of saturated water") \
+  X(202, kvtVUSHCVWDERPTSST, M1, T, WaterCalculator::VUSHCVWDERPTSST, "T [K]: the 14 outputs of saturated steam") \
+  X(203, kvtVSTX, D2, TX, WaterCalculator::VSTX, "T [K], x [-]: specific volume [m3/kg] of wet steam") \
+  X(204, kvtUSTX, D2, TX, WaterCalculator::USTX, "T [K], x [-]: internal energy [J/kg] of wet steam") \
+  X(205, kvtSSTX, D2, TX, WaterCalculator::SSTX, "T [K], x [-]: entropy [J/(kg K)] of wet steam") \
+  X(206, kvtHSTX, D2, TX, WaterCalculator::HSTX, "T [K], x [-]: enthalpy [J/kg] of wet steam") \
+  X(207, kvtCPSTX, D2, TX, WaterCalculator::CPSTX, "T [K], x [-]: cp [J/(kg K)] of wet steam") \
+  X(208, kvtCVSTX, D2, TX, WaterCalculator::CVSTX, "T [K], x [-]: cv [J/(kg K)] of wet steam") \
+  X(209, kvtWSTX, D2, TX, WaterCalculator::WSTX, "T [K], x [-]: speed of sound [m/s] of wet steam") \
+  X(210, kvtJOULETHOMPSONSTX, D2, TX, WaterCalculator::JOULETHOMPSONSTX, "T [K], x [-]: Joule-Thomson coefficient [K/Pa] of wet steam") \
+  X(211, kvtTHERMCONDSTX, D2, TX, WaterCalculator::THERMCONDSTX, "T [K], x [-]: thermal conductivity [W/(m K)] of wet steam") \
+  X(212, kvtDYNVISSTX, D2, TX, WaterCalculator::DYNVISSTX, "T [K], x [-]: dynamic viscosity [Pa s] of wet steam") \
+  X(213, kvtPRANDTLESTX, D2, TX, WaterCalculator::PRANDTLESTX, "T [K], x [-]: Prandtl number [-] of wet steam") \
+  X(214, kvtKINVISSTX, D2, TX, WaterCalculator::KINVISSTX, "T [K], x [-]: kinematic viscosity [m2/s] of wet steam") \
+  X(215, kvtKSTX, D2, TX, WaterCalculator::KSTX, "T [K], x [-]: isentropic exponent [-] of wet steam") \
+  X(216, kvtXSTV, D2, XST, WaterCalculator::XSTV, "T [K], specific volume [m3/kg]: dryness x [-]") \
+  X(217, kvtXSTU, D2, XST, WaterCalculator::XSTU, "T [K], internal energy [J/kg]: dryness x [-]") \
+  X(218, kvtXSTS, D2, XST, WaterCalculator::XSTS, "T [K], entropy [J/(kg K)]: dryness x [-]") \
+  X(219, kvtXSTH, D2, XST, WaterCalculator::XSTH, "T [K], enthalpy [J/kg]: dryness x [-]") \
+  X(220, kvtXSTCP, D2, XST, WaterCalculator::XSTCP, "T [K], cp [J/(kg K)]: dryness x [-]") \
+  X(221, kvtXSTCV, D2, XST, WaterCalculator::XSTCV, "T [K], cv [J/(kg K)]: dryness x [-]") \
+  X(222, kvtXSTW, D2, XST, WaterCalculator::XSTW, "T [K], speed of sound [m/s]: dryness x [-]") \
+  X(223, kvtXSTJOULETHOMPSON, D2, XST, WaterCalculator::XSTJOULETHOMPSON, "T [K], Joule-Thomson coefficient [K/Pa]: dryness x [-]") \
+  X(224, kvtXSTTHERMCOND, D2, XST, WaterCalculator::XSTTHERMCOND, "T [K], thermal conductivity [W/(m K)]: dryness x [-]") \
+  X(225, kvtXSTDYNVIS, D2, XST, WaterCalculator::XSTDYNVIS, "T [K], dynamic viscosity [Pa s]: dryness x [-]") \
+  X(226, kvtXSTKINVIS, D2, XST, WaterCalculator::XSTKINVIS, "T [K], kinematic viscosity [m2/s]: dryness x [-]") \
+  X(227, kvtXSTPRANDTLE, D2, XST, WaterCalculator::XSTPRANDTLE, "T [K], Prandtl number [-]: dryness x [-]") \
+  X(228, kvtXSTK, D2, XST, WaterCalculator::XSTK, "T [K], isentropic exponent [-]: dryness x [-]") \
   /* ---- State areas and boundary curves ---- */ \
   X(251, kvtROUGHRSST, D1, T, WaterCalculator::ROUGHRSST, "T [K]: rough saturated steam density [kg/m3]") \
   X(252, kvtROUGHRSWT, D1, T, WaterCalculator::ROUGHRSWT, "T [K]: rough saturated water density [kg/m3]") \
   X(265, kvtROUGHHSSS, D1, None, WaterCalculator::ROUGHHSSS, "s [J/(kg K)]: rough saturated steam enthalpy [J/kg]") \
   X(266, kvtROUGHHSWS, D1, None, WaterCalculator::ROUGHHSWS, "s [J/(kg K)]: rough saturated water enthalpy [J/kg]") \
+  X(167, kvtWATERSTATEAREAPH, I2, None, WaterCalculator::WATERSTATEAREAPH, "p [Pa], h [J/kg]: area 1..5") \
+  X(168, kvtWATERSTATEAREAPS, I2, None, WaterCalculator::WATERSTATEAREAPS, "p [Pa], s [J/(kg K)]: area 1..5") \
+  X(264, kvtWATERSTATEAREAHS, I2, None, WaterCalculator::WATERSTATEAREAHS, "h [J/kg], s [J/(kg K)]: area 1..5") \
+  X(271, kvtTSHS, D2, None, WaterCalculator::TSHS, "h [J/kg], s [J/(kg K)]: temperature of a wet state [K]") \
+  X(297, kvtTXSHS, P2, None, WaterCalculator::TXSHS, "h [J/kg], s [J/(kg K)]: T [K], x [-]") \
+  X(100, kvtWATERSTATEAREA, I2, PT, WaterCalculator::WATERSTATEAREA, "p [Pa], T [K]: area 1..5 (4 wet within the tolerance band)") \
+  X(101, kvtWATERSTATEAREA2, I2, PT, WaterCalculator::WATERSTATEAREA2, "p [Pa], T [K]: area 1, 2, 3 or 5") \
+  X(253, kvtPHASESTATEPT, I2, None, WaterCalculator::PHASESTATEPT, "p [Pa], T [K]: phase 1 liquid, 2 vapour, 3 supercritical") \
   /* ---- Saturation line, transport and auxiliary curves ---- */ \
   X(169, kvtPST, D1, T, WaterCalculator::PST, "T [K]: saturation pressure [Pa]") \
   X(170, kvtDPDTST, D1, T, WaterCalculator::DPDTST, "T [K]: slope of the saturation line dp/dT [Pa/K]") \

@@ -92,6 +92,37 @@ class WaterCalculator {
   double TSATHS(double h, double s);
 
   // ---- Saturated phases and wet steam ----
+  // Saturated water (SWT) and saturated steam (SST) by T.
+  double VSWT(double T); double USWT(double T); double SSWT(double T); double HSWT(double T);
+  double CPSWT(double T); double CVSWT(double T); double CVDPSWT(double T); double WSWT(double T);
+  double JOULETHOMPSONSWT(double T); double THERMCONDSWT(double T); double DYNVISSWT(double T);
+  double PRANDTLESWT(double T); double KINVISSWT(double T); double KSWT(double T);
+  double VUSHCVWDERPTSWT(double T, Out14& out);
+  double VSST(double T); double USST(double T); double SSST(double T); double HSST(double T);
+  double CPSST(double T); double CVSST(double T); double CVDPSST(double T); double WSST(double T);
+  double JOULETHOMPSONSST(double T); double THERMCONDSST(double T); double DYNVISSST(double T);
+  double PRANDTLESST(double T); double KINVISSST(double T); double KSST(double T);
+  double VUSHCVWDERPTSST(double T, Out14& out);
+  double RST(double T);  // heat of vaporisation
+  // Wet steam by T and dryness x.
+  double VSTX(double T, double x); double USTX(double T, double x);
+  double SSTX(double T, double x); double HSTX(double T, double x);
+  double CPSTX(double T, double x); double CVSTX(double T, double x);
+  double WSTX(double T, double x); double JOULETHOMPSONSTX(double T, double x);
+  double THERMCONDSTX(double T, double x); double DYNVISSTX(double T, double x);
+  double PRANDTLESTX(double T, double x); double KINVISSTX(double T, double x);
+  double KSTX(double T, double x);
+  // Dryness from T and the value y of a property.
+  double XSTV(double T, double y); double XSTU(double T, double y);
+  double XSTS(double T, double y); double XSTH(double T, double y);
+  double XSTCP(double T, double y); double XSTCV(double T, double y);
+  double XSTW(double T, double y); double XSTJOULETHOMPSON(double T, double y);
+  double XSTTHERMCOND(double T, double y); double XSTDYNVIS(double T, double y);
+  double XSTPRANDTLE(double T, double y); double XSTKINVIS(double T, double y);
+  double XSTK(double T, double y);
+  // T and x of a wet state from h and s.
+  double TXSHS(double h, double s, double& T, double& x);
+  double TSHS(double h, double s);
 
   // ---- Boundary curves ----
   double P23T(double T);
@@ -101,8 +132,44 @@ class WaterCalculator {
   double PB23HS(double h, double s);
 
   // ---- State areas ----
+  // Area codes: 1 compressed liquid, 2 steam, 3 near-critical and
+  // supercritical, 4 wet (saturated), 5 high-temperature steam.
+  int32_t WATERSTATEAREA(double p, double T);
+  int32_t WATERSTATEAREA2(double p, double T);
+  // Phase codes: 1 liquid, 2 vapour, 3 supercritical.
+  int32_t PHASESTATEPT(double p, double T);
+  int32_t WATERSTATEAREAPH(double p, double h);
+  int32_t WATERSTATEAREAPS(double p, double s);
+  int32_t WATERSTATEAREAHS(double h, double s);
 
   // ---- Composites by p, T and p, T, x ----
+  double VPT(double p, double T);
+  double UPT(double p, double T);
+  double SPT(double p, double T);
+  double HPT(double p, double T);
+  double CPPT(double p, double T);
+  double CVPT(double p, double T);
+  double WPT(double p, double T);
+  double JOULETHOMPSONPT(double p, double T);
+  double VUSHCVWDERPTPT(double p, double T, Out14& out);
+  double THERMCONDPT(double p, double T);
+  double DYNVISPT(double p, double T);
+  double KINVISPT(double p, double T);
+  double PRANDTLEPT(double p, double T);
+  double KPT(double p, double T);
+  double VPTX(double p, double T, double x);
+  double UPTX(double p, double T, double x);
+  double SPTX(double p, double T, double x);
+  double HPTX(double p, double T, double x);
+  double CPPTX(double p, double T, double x);
+  double CVPTX(double p, double T, double x);
+  double WPTX(double p, double T, double x);
+  double JOULETHOMPSONPTX(double p, double T, double x);
+  double THERMCONDPTX(double p, double T, double x);
+  double DYNVISPTX(double p, double T, double x);
+  double PRANDTLEPTX(double p, double T, double x);
+  double KINVISPTX(double p, double T, double x);
+  double KPTX(double p, double T, double x);
 
   // ---- Region 1, 2 and 5 inversions ----
 
@@ -122,6 +189,34 @@ class WaterCalculator {
   Engine* engine;
 
  private:
+  using PTCore = double (WaterCalculator::*)(double, double);
+  // The core of the area that WATERSTATEAREA2 gives for (p, T).
+  double ByAreaPT(PTCore r1, PTCore r2, PTCore r3, PTCore r5, double p, double T);
+  using TCore = double (WaterCalculator::*)(double);
+  using RTCore = double (WaterCalculator::*)(double, double);
+  using TXCore = double (WaterCalculator::*)(double, double);
+  // A property of one saturated phase: regions 1 and 2 up to 623.15 K, above
+  // it region 3 at the density solved from the rough saturation density.
+  double Saturated(bool steam, PTCore r12, RTCore r3, double T);
+  double SaturatedMany(bool steam, double T, Out14& out);
+  double TwoPhaseCV(bool steam, double T);
+  double SaturatedThermCond(bool steam, double T);
+  double SaturatedDynVis(bool steam, double T);
+  double V3RT(double rho, double T);
+  // The dryness-weighted mean and its inverse over the two saturated phases.
+  double Mix(TCore water, TCore steam, double T, double x);
+  double Dryness(TCore water, TCore steam, double T, double y);
+  // Derivatives of v along the isentrope on the water and steam side.
+  void IsentropeSlopes(double T, double& A, double& B);
+  void BisectWet(double h, double s, double low, double high, double& T, double& x);
+  // By WATERSTATEAREA: the region's core, or the wet one in area 4.
+  double ByAreaPTX(PTCore r1, PTCore r2, PTCore r3, PTCore r5, TXCore wet, double p, double T,
+                   double x);
+  double WetOrPT(PTCore pt, TXCore wet, double p, double T, double x);
+  // The area of (p, y) with y an enthalpy or an entropy: the region 1, 2 and
+  // 3 functions of that quantity and the saturated ones.
+  int32_t AreaPY(double p, double y, PTCore y1, PTCore y2, RTCore y3, TCore water, TCore steam,
+                 bool entropy);
   template <int SA, int SB>
   Gibbs Region1Sums(double p, double tau);
   template <int SA, int SB>
