@@ -105,6 +105,12 @@ class WaterCalculator {
   double PT2HS(double h, double s, double& p, double& T);
   double PT2RH(double density, double h, double& p, double& T);
 
+  // Newton refinement in two variables behind PT1HS, PT1RH, PT2HS, PT2RH:
+  // moves (p, T) in place from the start given, returns 1.0 or raises 3.
+  double NEWTON1HS(double h, double s, double& p, double& T);
+  double NEWTON1RH(double density, double h, double& p, double& T);
+  double NEWTON2HS(double h, double s, double& p, double& T);
+  double NEWTON2RH(double density, double h, double& p, double& T);
 
   // ---- Region 3 inversions ----
 
@@ -138,11 +144,7 @@ class WaterCalculator {
   void Region2Ideal(PowerTable& table, double tau, Gibbs& g);
   Gibbs Region2Full(double p, double tau);
 
-  // Newton refinement in two variables of the region 1 and 2 inversions.
-  double NEWTON1HS(double h, double s, double& p, double& T);
-  double NEWTON1RH(double density, double h, double& p, double& T);
-  double NEWTON2HS(double h, double s, double& p, double& T);
-  double NEWTON2RH(double density, double h, double& p, double& T);
+  // Backward equation of the sub-region the state lies in.
   double T2PHBACK(double p, double h);
   double T2PSBACK(double p, double s);
   double P2HSBACK(double h, double s);
