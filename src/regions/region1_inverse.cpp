@@ -80,7 +80,8 @@ double WaterCalculator::T1PS(double p, double s) {
 // (ds/dp)T = -(dv/dT)p and (ds/dT)p = cp / T. The point moves before the stop
 // test, which looks at the residuals of the point before the step.
 double WaterCalculator::NEWTON1HS(double h, double s, double& p, double& T) {
-  const double tolh = RelativeBand(h, engine->tolerance), tols = RelativeBand(s, engine->tolerance);
+  const double tolh = RelativeBand(h, engine->tolerance);
+  const double tols = RelativeBand(s, engine->tolerance);
   const int32_t limit = engine->maxIteration;
   int32_t count = 0;
   for (;;) {
@@ -108,7 +109,8 @@ double WaterCalculator::NEWTON1HS(double h, double s, double& p, double& T) {
 // Newton on v and h. A step into negative p or T restarts that variable from
 // a plain liquid value; the pass still counts.
 double WaterCalculator::NEWTON1RH(double density, double h, double& p, double& T) {
-  const double tolr = RelativeBand(density, engine->tolerance), tolh = RelativeBand(h, engine->tolerance);
+  const double tolr = RelativeBand(density, engine->tolerance);
+  const double tolh = RelativeBand(h, engine->tolerance);
   const int32_t limit = engine->maxIteration;
   int32_t count = 0;
   for (;;) {

@@ -55,17 +55,20 @@ static double FourthPower(double x) {
 
 double WaterCalculator::P2AHSBACK(double h, double s) {
   using namespace region2::phsa;
-  return P2AB * FourthPower(BackwardSum(powerA, h / 4.2e6 - 0.5, powerB, s / 12000.0 - 1.2, N, I, J));
+  return P2AB * FourthPower(BackwardSum(powerA, h / 4.2e6 - 0.5,
+                                        powerB, s / 12000.0 - 1.2, N, I, J));
 }
 
 double WaterCalculator::P2BHSBACK(double h, double s) {
   using namespace region2::phsb;
-  return PMAX * FourthPower(BackwardSum(powerA, h / 4.1e6 - 0.6, powerB, s / 7900.0 - 1.01, N, I, J));
+  return PMAX * FourthPower(BackwardSum(powerA, h / 4.1e6 - 0.6,
+                                        powerB, s / 7900.0 - 1.01, N, I, J));
 }
 
 double WaterCalculator::P2CHSBACK(double h, double s) {
   using namespace region2::phsc;
-  return PMAX * FourthPower(BackwardSum(powerA, h / 3.5e6 - 0.7, powerB, s / 5900.0 - 1.1, N, I, J));
+  return PMAX * FourthPower(BackwardSum(powerA, h / 3.5e6 - 0.7,
+                                        powerB, s / 5900.0 - 1.1, N, I, J));
 }
 
 // Boundary 2b/2c, IAPWS-IF97 Equations 20 and 21 (Table 19).
@@ -203,7 +206,8 @@ double WaterCalculator::NEWTON2HS(double h, double s, double& p, double& T) {
 
 // Newton on v and h; a step into negative p or T restarts that variable.
 double WaterCalculator::NEWTON2RH(double density, double h, double& p, double& T) {
-  const double tolr = RelativeBand(density, engine->tolerance), tolh = RelativeBand(h, engine->tolerance);
+  const double tolr = RelativeBand(density, engine->tolerance);
+  const double tolh = RelativeBand(h, engine->tolerance);
   const int32_t limit = engine->maxIteration;
   int32_t count = 0;
   for (;;) {
