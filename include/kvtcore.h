@@ -223,7 +223,27 @@
   X(120, kvtJOULETHOMPSON2PT, D2, None, WaterCalculator::JOULETHOMPSON2PT, "p [Pa], T [K]: Joule-Thomson coefficient [K/Pa]") \
   X(121, kvtVUSHCVWDERPT2PT, M2, None, WaterCalculator::VUSHCVWDERPT2PT, "p [Pa], T [K]: the 14 outputs") \
   /* ---- Region 1 inversions ---- */ \
+  X(151, kvtT1PH, D2, None, WaterCalculator::T1PH, "p [Pa], h [J/kg]: temperature in region 1 [K]") \
+  X(152, kvtT1PS, D2, None, WaterCalculator::T1PS, "p [Pa], s [J/(kg K)]: temperature in region 1 [K]") \
+  X(254, kvtP1HS, D2, None, WaterCalculator::P1HS, "h [J/kg], s [J/(kg K)]: pressure in region 1 [Pa]") \
+  X(255, kvtT1HS, D2, None, WaterCalculator::T1HS, "h [J/kg], s [J/(kg K)]: temperature in region 1 [K]") \
+  X(274, kvtPT1HS, P2, None, WaterCalculator::PT1HS, "h [J/kg], s [J/(kg K)]: p [Pa], T [K]") \
+  X(294, kvtPT1RH, P2, None, WaterCalculator::PT1RH, "density [kg/m3], h [J/kg]: p [Pa], T [K]") \
   /* ---- Region 2 inversions ---- */ \
+  X(153, kvtT2APH, D2, None, WaterCalculator::T2APH, "p [Pa], h [J/kg]: temperature by the 2a backward equation [K]") \
+  X(154, kvtT2APS, D2, None, WaterCalculator::T2APS, "p [Pa], s [J/(kg K)]: temperature by the 2a backward equation [K]") \
+  X(155, kvtT2BPH, D2, None, WaterCalculator::T2BPH, "p [Pa], h [J/kg]: temperature by the 2b backward equation [K]") \
+  X(156, kvtT2BPS, D2, None, WaterCalculator::T2BPS, "p [Pa], s [J/(kg K)]: temperature by the 2b backward equation [K]") \
+  X(157, kvtT2CPH, D2, None, WaterCalculator::T2CPH, "p [Pa], h [J/kg]: temperature by the 2c backward equation [K]") \
+  X(158, kvtT2CPS, D2, None, WaterCalculator::T2CPS, "p [Pa], s [J/(kg K)]: temperature by the 2c backward equation [K]") \
+  X(159, kvtT2PH, D2, None, WaterCalculator::T2PH, "p [Pa], h [J/kg]: temperature in region 2 [K]") \
+  X(160, kvtT2PS, D2, None, WaterCalculator::T2PS, "p [Pa], s [J/(kg K)]: temperature in region 2 [K]") \
+  X(165, kvtP2B2CH, D1, None, WaterCalculator::P2B2CH, "h [J/kg]: pressure on the 2b/2c boundary [Pa]") \
+  X(166, kvtH2B2CP, D1, None, WaterCalculator::H2B2CP, "p [Pa]: enthalpy on the 2b/2c boundary [J/kg]") \
+  X(256, kvtP2HS, D2, None, WaterCalculator::P2HS, "h [J/kg], s [J/(kg K)]: pressure in region 2 [Pa]") \
+  X(257, kvtT2HS, D2, None, WaterCalculator::T2HS, "h [J/kg], s [J/(kg K)]: temperature in region 2 [K]") \
+  X(275, kvtPT2HS, P2, None, WaterCalculator::PT2HS, "h [J/kg], s [J/(kg K)]: p [Pa], T [K]") \
+  X(295, kvtPT2RH, P2, None, WaterCalculator::PT2RH, "density [kg/m3], h [J/kg]: p [Pa], T [K]") \
   /* ---- Region 3 ---- */ \
   /* Region 3 equation by density, T, and by p, T through the density solve */ \
   X(122, kvtP3RT, D2, None, WaterCalculator::P3RT, "rho [kg/m3], T [K]: pressure [Pa]") \

@@ -50,6 +50,16 @@ inline TermSums SumTerms(const PowerTable& A, const PowerTable& B, const double 
   return r;
 }
 
+// A backward equation: sum of n a^I b^J, with a and b filled into the two
+// tables as far as the exponents reach.
+template <size_t N>
+inline double BackwardSum(PowerTable& A, double a, PowerTable& B, double b, const double (&n)[N],
+                          const int32_t (&I)[N], const int32_t (&J)[N]) {
+  A.Fill(a, FillCount(I, 0));
+  B.Fill(b, FillCount(J, 0));
+  return SumTerms<0, 0>(A, B, n, I, J).s;
+}
+
 // Reduced Gibbs free energy and its derivatives by pi and tau.
 struct Gibbs {
   double g = 0, gp = 0, gpp = 0, gt = 0, gtt = 0, gpt = 0;

@@ -2,24 +2,9 @@
 // with A = 7.1 - pi and B = tau - 1.222 in the power tables.
 #include <cmath>
 
-#include "regions/constants.h"
-#include "regions/region1_tables.h"
-#include "regions/water_calculator.h"
+#include "regions/region1_sums.h"
 
 namespace kvt {
-
-// Fills both tables as far as the shifted exponents reach, runs one pass and
-// returns the derivatives by pi and tau (dA/dpi = -1 turns the sign of the
-// odd pi-derivatives).
-template <int SA, int SB>
-Gibbs WaterCalculator::Region1Sums(double p, double tau) {
-  using namespace region1;
-  constexpr int32_t countA = FillCount(I, SA), countB = FillCount(J, SB);
-  powerA.Fill(7.1 - p / P1STAR, countA);
-  powerB.Fill(tau - 1.222, countB);
-  const TermSums t = SumTerms<SA, SB>(powerA, powerB, N, I, J);
-  return {t.s, -t.sA, t.sAA, t.sB, t.sBB, -t.sAB};
-}
 
 double WaterCalculator::V1PT(double p, double T) {
   const Gibbs g = Region1Sums<1, 0>(p, TSTAR1 / T);

@@ -2,40 +2,9 @@
 // pi = p / 1 MPa and B = tau - 0.5 in the power tables for the residual pass.
 #include <cmath>
 
-#include "regions/constants.h"
-#include "regions/region2_tables.h"
-#include "regions/water_calculator.h"
+#include "regions/region2_sums.h"
 
 namespace kvt {
-
-// Residual part: pi in powerA, tau - 0.5 in powerB.
-template <int SA, int SB>
-Gibbs WaterCalculator::Region2Residual(double p, double tau) {
-  using namespace region2;
-  constexpr int32_t countA = FillCount(I, SA), countB = FillCount(J, SB);
-  powerA.Fill(p / P2STAR, countA);
-  powerB.Fill(tau - 0.5, countB);
-  const TermSums t = SumTerms<SA, SB>(powerA, powerB, N, I, J);
-  return {t.s, t.sA, t.sAA, t.sB, t.sBB, t.sAB};
-}
-
-// Ideal part: adds the nine terms in stored order to gamma and its tau
-// derivatives, reading tau^(J0 - S) from `table` refilled with tau. The log
-// and 1/pi terms are the callers'.
-template <int S>
-void WaterCalculator::Region2Ideal(PowerTable& table, double tau, Gibbs& g) {
-  using namespace region2;
-  constexpr int32_t count = FillCount(J0, S);
-  table.Fill(tau, count);
-  double t[3] = {1.0, 1.0, 1.0};
-  for (int k = 0; k <= S; ++k) t[k] = table.Power(k);
-  for (int i = 0; i < 9; ++i) {
-    const double e = N0[i] * table.Power(J0[i] - S), j = J0[i];
-    g.g += e * t[S];
-    g.gt += j * e * t[S - 1];
-    if constexpr (S >= 2) g.gtt += j * (j - 1) * e * t[S - 2];
-  }
-}
 
 double WaterCalculator::V2PT(double p, double T) {
   const Gibbs g = Region2Residual<1, 0>(p, TSTAR2 / T);

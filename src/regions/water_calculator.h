@@ -3,6 +3,7 @@
 // read the engine's settings at the moment of use.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 
 #include "regions/gibbs.h"
@@ -14,6 +15,18 @@ class Engine;
 
 // Raised failure: an integer code, caught only by the guarded call.
 [[noreturn]] inline void raise(int32_t code) { throw code; }
+
+// Stop tests of the iterative solves, inclusive and strict. A NaN counts as
+// inside the band: the solve ends at once and the NaN reaches the finiteness
+// test of the guarded call (error 1) instead of running out of passes.
+inline bool WithinBand(double x, double band) { return !(x > band || -x > band); }
+inline bool BelowBand(double x, double band) { return !(x >= band || -x >= band); }
+
+// Stop band of a two-variable solve for a target x: relative, with a floor
+// for targets near zero.
+inline double RelativeBand(double x, double tolerance) {
+  return std::fabs(x) <= 1.0 ? 10000.0 * tolerance : std::fabs(x * tolerance);
+}
 
 class WaterCalculator {
  public:
@@ -172,6 +185,45 @@ class WaterCalculator {
   double KPTX(double p, double T, double x);
 
   // ---- Region 1, 2 and 5 inversions ----
+  // Region 1: backward equations, then Newton refinement on the basic
+  // equation unless toleranceMode is 0.
+  double T1PHBACK(double p, double h);
+  double T1PSBACK(double p, double s);
+  double P1HSBACK(double h, double s);
+  double T1PH(double p, double h);
+  double T1PS(double p, double s);
+  double P1HS(double h, double s);
+  double T1HS(double h, double s);
+  double PT1HS(double h, double s, double& p, double& T);
+  double PT1RH(double density, double h, double& p, double& T);
+
+  // Region 2: the sub-region backward equations, each usable by itself, and
+  // the boundaries between the sub-regions.
+  double T2APH(double p, double h);
+  double T2BPH(double p, double h);
+  double T2CPH(double p, double h);
+  double T2APS(double p, double s);
+  double T2BPS(double p, double s);
+  double T2CPS(double p, double s);
+  double P2AHSBACK(double h, double s);
+  double P2BHSBACK(double h, double s);
+  double P2CHSBACK(double h, double s);
+  double P2B2CH(double h);
+  double H2B2CP(double p);
+  double H2ABS(double s);
+  double T2PH(double p, double h);
+  double T2PS(double p, double s);
+  double P2HS(double h, double s);
+  double T2HS(double h, double s);
+  double PT2HS(double h, double s, double& p, double& T);
+  double PT2RH(double density, double h, double& p, double& T);
+
+  // Newton refinement in two variables behind PT1HS, PT1RH, PT2HS, PT2RH:
+  // moves (p, T) in place from the start given, returns 1.0 or raises 3.
+  double NEWTON1HS(double h, double s, double& p, double& T);
+  double NEWTON1RH(double density, double h, double& p, double& T);
+  double NEWTON2HS(double h, double s, double& p, double& T);
+  double NEWTON2RH(double density, double h, double& p, double& T);
 
   // ---- Region 3 inversions ----
 
@@ -217,14 +269,31 @@ class WaterCalculator {
   // 3 functions of that quantity and the saturated ones.
   int32_t AreaPY(double p, double y, PTCore y1, PTCore y2, RTCore y3, TCore water, TCore steam,
                  bool entropy);
+  // Region 1 and 2 passes (regions/region1_sums.h, region2_sums.h): FillA
+  // fills powerA for a fixed p, Pass refills powerB and sums; Sums and
+  // Residual do both.
+  template <int SA>
+  void Region1FillA(double p);
+  template <int SA, int SB>
+  Gibbs Region1Pass(double tau);
   template <int SA, int SB>
   Gibbs Region1Sums(double p, double tau);
+  template <int SA>
+  void Region2FillA(double p);
+  template <int SA, int SB>
+  Gibbs Region2ResidualPass(double tau);
   template <int SA, int SB>
   Gibbs Region2Residual(double p, double tau);
   template <int S>
   void Region2Ideal(PowerTable& table, double tau, Gibbs& g);
   template <int SA, int SB>
   Gibbs Region5Sums(double pi, double tau, Gibbs start, int32_t countB);
+  Gibbs Region2Full(double p, double tau);
+
+  // Backward equation of the sub-region the state lies in.
+  double T2PHBACK(double p, double h);
+  double T2PSBACK(double p, double s);
+  double P2HSBACK(double h, double s);
 };
 
 }  // namespace kvt

@@ -1,0 +1,50 @@
+// The region 2 basic equation, residual and ideal parts, shared by the forward
+// cores and the inversions. pi sits in powerA, B = tau - 0.5 in powerB; a solve
+// at fixed p fills powerA once and refills only powerB, so the ideal part of
+// a solve reads tau from powerB.
+#pragma once
+
+#include "regions/constants.h"
+#include "regions/region2_tables.h"
+#include "regions/water_calculator.h"
+
+namespace kvt {
+
+template <int SA>
+void WaterCalculator::Region2FillA(double p) {
+  powerA.Fill(p / P2STAR, FillCount(region2::I, SA));
+}
+
+// Residual part from powerA as it stands.
+template <int SA, int SB>
+Gibbs WaterCalculator::Region2ResidualPass(double tau) {
+  using namespace region2;
+  powerB.Fill(tau - 0.5, FillCount(J, SB));
+  const TermSums t = SumTerms<SA, SB>(powerA, powerB, N, I, J);
+  return {t.s, t.sA, t.sAA, t.sB, t.sBB, t.sAB};
+}
+
+template <int SA, int SB>
+Gibbs WaterCalculator::Region2Residual(double p, double tau) {
+  Region2FillA<SA>(p);
+  return Region2ResidualPass<SA, SB>(tau);
+}
+
+// Ideal part: adds the nine terms in stored order to gamma and its tau
+// derivatives, reading tau^(J0 - S) from `table` refilled with tau. The log
+// and 1/pi terms are the callers'.
+template <int S>
+void WaterCalculator::Region2Ideal(PowerTable& table, double tau, Gibbs& g) {
+  using namespace region2;
+  table.Fill(tau, FillCount(J0, S));
+  double t[3] = {1.0, 1.0, 1.0};
+  for (int k = 0; k <= S; ++k) t[k] = table.Power(k);
+  for (int i = 0; i < 9; ++i) {
+    const double e = N0[i] * table.Power(J0[i] - S), j = J0[i];
+    g.g += e * t[S];
+    g.gt += j * e * t[S - 1];
+    if constexpr (S >= 2) g.gtt += j * (j - 1) * e * t[S - 2];
+  }
+}
+
+}  // namespace kvt
