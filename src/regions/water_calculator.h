@@ -5,15 +5,13 @@
 
 #include <cstdint>
 
+#include "frame/raise.h"
 #include "regions/gibbs.h"
 #include "regions/power_table.h"
 
 namespace kvt {
 
 class Engine;
-
-// Raised failure: an integer code, caught only by the guarded call.
-[[noreturn]] inline void raise(int32_t code) { throw code; }
 
 class WaterCalculator {
  public:
