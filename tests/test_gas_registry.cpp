@@ -244,6 +244,25 @@ TEST_F(Spec, CyclesAreRefusedThroughTheExports) {
   EXPECT_EQ(kvtgDELETEGASID(outer), count - 2);
 }
 
+TEST_F(Spec, RegistryExportsReturnIdsAndCounts) {
+  const int32_t count = kvtgGASESCOUNT();
+  const int32_t id = kvtgNEWIDGS(" CO:1;H2:1 ");
+  EXPECT_GT(id, 14);
+  EXPECT_EQ(kvtgIDNAME("co:1;h2:1"), id);
+  EXPECT_EQ(kvtgNEWIDGS("CO:1;H2:1"), -1);
+  EXPECT_EQ(kvtGETLASTERROR(), 1);
+  EXPECT_EQ(kvtgNEWIDGS("CO:1;H2:"), -1);
+  EXPECT_EQ(kvtGETLASTERROR(), 11);
+  EXPECT_EQ(kvtgGASESCOUNT(), count + 1);
+  EXPECT_STREQ(kvtgGSID(id), "CO:0.5;H2:0.5;");
+  EXPECT_EQ(kvtgHIDT(id, 600), kvtgHGST("CO:1;H2:1", 600));
+  EXPECT_EQ(kvtgNEWIDNAME("Air"), -1);
+  EXPECT_EQ(kvtgDELETEGASID(id), count);
+  EXPECT_EQ(kvtgCPIDT(id, 600), -1.0);
+  EXPECT_EQ(kvtGETLASTERROR(), 1);
+  EXPECT_GT(kvtgCPGST("CO:1;H2:1", 600), 0);  // the text still reaches the cached gas
+}
+
 TEST_F(Spec, CachePurgeKeepsTheCurrentGasUsable) {
   const int32_t kept = gas.NewGasFromSpec("CO2:1;H2O:2");
   gas.GetBySpec("N2:3;O2:1");
