@@ -53,6 +53,16 @@
  *   I0   int32_t f(void)      I1  int32_t f(int32_t)
  *   C0   const char* f(void)  W0  const char16_t* f(void)   UTF-8 / UTF-16
  *   H1   double f(int32_t window)
+ * Gases, by id (int32_t) or by gas-spec text (const char*, e.g. "N2:0.79;O2:0.21"):
+ *   GI0  double f(int32_t id)            GS0  double f(const char* gs)
+ *   GI1  double f(int32_t id, double)    GS1  double f(const char* gs, double)
+ *   GI2  double f(int32_t id, double, double)
+ *   GS2  double f(const char* gs, double, double)
+ *   FII  double f(int32_t, int32_t)      FSS  double f(const char*, const char*)
+ *   AII  int32_t f(int32_t mixture, int32_t component, double amount)
+ *   IS1  int32_t f(const char*)
+ *   CI1  const char* f(int32_t)          CS1  const char* f(const char*)
+ *   D12  double f(12 doubles)
  * The 14 outputs are, in order: v, u, s, h, cv, w, (dv/dp)T, (du/dp)T,
  * (ds/dp)T, (dh/dp)T, (dv/dT)p, (du/dT)p, (ds/dT)p, (dh/dT)p = cp.
  */
@@ -73,12 +83,32 @@
 #define KVT_SHAPE_C0 const char*, (void)
 #define KVT_SHAPE_W0 const char16_t*, (void)
 #define KVT_SHAPE_H1 double, (int32_t)
+#define KVT_SHAPE_GI0 double, (int32_t)
+#define KVT_SHAPE_GI1 double, (int32_t, double)
+#define KVT_SHAPE_GI2 double, (int32_t, double, double)
+#define KVT_SHAPE_GS0 double, (const char*)
+#define KVT_SHAPE_GS1 double, (const char*, double)
+#define KVT_SHAPE_GS2 double, (const char*, double, double)
+#define KVT_SHAPE_FII double, (int32_t, int32_t)
+#define KVT_SHAPE_FSS double, (const char*, const char*)
+#define KVT_SHAPE_AII int32_t, (int32_t, int32_t, double)
+#define KVT_SHAPE_IS1 int32_t, (const char*)
+#define KVT_SHAPE_CI1 const char*, (int32_t)
+#define KVT_SHAPE_CS1 const char*, (const char*)
+#define KVT_SHAPE_D12 double, (double, double, double, double, double, double, double, \
+    double, double, double, double, double)
 
 /*
  * Range rules (checked while kvtSETCHECKRANGEMODE is nonzero; a failed check
  * gives error 2): None, or the rule of the family as named. The rules Getter
  * and Plain mark the settings functions whose frame differs: Getter clears
- * the error code and reads; Plain leaves the error code alone.
+ * the error code and reads; Plain leaves the error code alone. GT is the gas
+ * temperature span, 200 to 2500 K, tested before the gas is looked up.
+ *
+ * For the gas rows the core is the operation of the gas record; the shape
+ * looks the gas up by id or by text first. A gas id is one of 0 N2, 1 O2,
+ * 2 CO, 3 CO2, 4 H2O, 5 SO2, 6 Air, 7 N2Air, 8 NO, 9 NO2, 10 Ar, 11 Ne, 12 H2,
+ * 13 AirMix, 14 N2AirMix, or one that kvtgNEWID.. returned.
  */
 /* X(ordinal, name, shape, rule, core, "arguments [units]: result [unit]") */
 #define KVT_CATALOGUE(X) \
@@ -280,6 +310,52 @@
   /* ---- Region 5 inversions ---- */ \
   /* ---- Help and about ---- */ \
   /* ---- Gases ---- */ \
+  X(306, kvtgSETCALCDISSMODE, I1, None, GasEngine::SETCALCDISSMODE, "dissociation mode: reserved, always error 8") \
+  X(307, kvtgGETCALCDISSMODE, I0, None, GasEngine::GETCALCDISSMODE, ": dissociation mode, always 0 (none computed)") \
+  X(400, kvtgCPIDT, GI1, GT, GasRecord::Cp, "gas id, T [K]: cp [J/(kg K)]") \
+  X(401, kvtgCPGST, GS1, GT, GasRecord::Cp, "gas spec, T [K]: cp [J/(kg K)]") \
+  X(402, kvtgHIDT, GI1, GT, GasRecord::H, "gas id, T [K]: enthalpy [J/kg]") \
+  X(403, kvtgHGST, GS1, GT, GasRecord::H, "gas spec, T [K]: enthalpy [J/kg]") \
+  X(404, kvtgSIDT, GI1, GT, GasRecord::S0, "gas id, T [K]: entropy at 100000 Pa [J/(kg K)]") \
+  X(405, kvtgSGST, GS1, GT, GasRecord::S0, "gas spec, T [K]: entropy at 100000 Pa [J/(kg K)]") \
+  X(406, kvtgSIDPT, GI2, GT, GasRecord::S, "gas id, p [Pa], T [K]: entropy [J/(kg K)]") \
+  X(407, kvtgSGSPT, GS2, GT, GasRecord::S, "gas spec, p [Pa], T [K]: entropy [J/(kg K)]") \
+  X(408, kvtgCVIDT, GI1, GT, GasRecord::Cv, "gas id, T [K]: cv [J/(kg K)]") \
+  X(409, kvtgCVGST, GS1, GT, GasRecord::Cv, "gas spec, T [K]: cv [J/(kg K)]") \
+  X(410, kvtgUIDT, GI1, GT, GasRecord::U, "gas id, T [K]: internal energy [J/kg]") \
+  X(411, kvtgUGST, GS1, GT, GasRecord::U, "gas spec, T [K]: internal energy [J/kg]") \
+  X(412, kvtgMMID, GI0, None, GasRecord::MolarMass, "gas id: molar mass [kg/mol]") \
+  X(413, kvtgMMGS, GS0, None, GasRecord::MolarMass, "gas spec: molar mass [kg/mol]") \
+  X(414, kvtgGCID, GI0, None, GasRecord::GasConstant, "gas id: gas constant [J/(kg K)]") \
+  X(415, kvtgGCGS, GS0, None, GasRecord::GasConstant, "gas spec: gas constant [J/(kg K)]") \
+  X(416, kvtgVIDT, GI1, GT, GasRecord::V0, "gas id, T [K]: specific volume at 100000 Pa [m3/kg]") \
+  X(417, kvtgVGST, GS1, GT, GasRecord::V0, "gas spec, T [K]: specific volume at 100000 Pa [m3/kg]") \
+  X(418, kvtgVIDPT, GI2, GT, GasRecord::V, "gas id, p [Pa], T [K]: specific volume [m3/kg]") \
+  X(419, kvtgVGSPT, GS2, GT, GasRecord::V, "gas spec, p [Pa], T [K]: specific volume [m3/kg]") \
+  X(420, kvtgTIDH, GI1, None, GasRecord::TFromH, "gas id, h [J/kg]: temperature [K]") \
+  X(421, kvtgTGSH, GS1, None, GasRecord::TFromH, "gas spec, h [J/kg]: temperature [K]") \
+  X(422, kvtgTIDS, GI1, None, GasRecord::TFromS, "gas id, s [J/(kg K)]: temperature at 100000 Pa [K]") \
+  X(423, kvtgTGSS, GS1, None, GasRecord::TFromS, "gas spec, s [J/(kg K)]: temperature at 100000 Pa [K]") \
+  X(424, kvtgTIDPS, GI2, None, GasRecord::TFromPS, "gas id, p [Pa], s [J/(kg K)]: temperature [K]") \
+  X(425, kvtgTGSPS, GS2, None, GasRecord::TFromPS, "gas spec, p [Pa], s [J/(kg K)]: temperature [K]") \
+  X(426, kvtgPIDTS, GI2, None, GasRecord::PFromTS, "gas id, T [K], s [J/(kg K)]: pressure [Pa]") \
+  X(427, kvtgPGSTS, GS2, None, GasRecord::PFromTS, "gas spec, T [K], s [J/(kg K)]: pressure [Pa]") \
+  X(430, kvtgVFGSGS, FSS, None, GasRecord::VolumeFractionOf, "gas spec, gas spec: volume fraction of the second in the first") \
+  X(431, kvtgMFGSGS, FSS, None, GasRecord::MassFractionOf, "gas spec, gas spec: mass fraction of the second in the first") \
+  X(432, kvtgVFIDID, FII, None, GasRecord::VolumeFractionOf, "gas id, gas id: volume fraction of the second in the first") \
+  X(433, kvtgMFIDID, FII, None, GasRecord::MassFractionOf, "gas id, gas id: mass fraction of the second in the first") \
+  X(434, kvtgIDNAME, IS1, None, GasEngine::IdOfName, "gas name: gas id") \
+  X(435, kvtgNEWID, I0, None, GasEngine::NewGas, ": id of a new empty gas") \
+  X(436, kvtgNEWIDNAME, IS1, None, GasEngine::NewNamedGas, "name: id of a new empty gas of that name") \
+  X(437, kvtgNEWIDGS, IS1, None, GasEngine::NewGasFromSpec, "gas spec: id of the gas registered for the text") \
+  X(438, kvtgDELETEGASID, I1, None, GasEngine::DeleteGas, "gas id (above 13): number of gases left") \
+  X(439, kvtgDELETEGASES, I0, None, GasEngine::DeleteGases, ": number of gases left, 13") \
+  X(440, kvtgGASESCOUNT, I0, None, GasEngine::GasesCount, ": number of registered gases") \
+  X(441, kvtgADDGASM, AII, None, GasRecord::AddByMass, "mixture id, component id, mass [kg]: number of components") \
+  X(442, kvtgADDGASV, AII, None, GasRecord::AddByVolume, "mixture id, component id, volume parts: number of components") \
+  X(443, kvtgGSID, CI1, None, GasEngine::GSID, "gas id: gas spec text") \
+  X(444, kvtgGSGS, CS1, None, GasEngine::GSGS, "gas spec: canonical gas spec text") \
+  X(445, kvtgGETGASDATA, D12, None, GasEngine::GETGASDATA, "12 values, ignored: reserved, always -1 with no error") \
   /* Settings, last error and constants */ \
   X(229, kvtSETTOLERANCE, D1, None, Engine::SETTOLERANCE, "relative tolerance: the value stored") \
   X(230, kvtGETTOLERANCE, D0, Getter, Engine::GETTOLERANCE, ": relative tolerance") \

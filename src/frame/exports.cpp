@@ -45,6 +45,53 @@ using namespace kvt;
   const char16_t* KVT_CALL n() { return Guarded<const char16_t*, R, &C>(); }
 #define KVT_DEF_H1(n, R, C) double KVT_CALL n(int32_t a) { return Guarded<double, R, &C>(a); }
 
+
+// Gas rows name an operation of the gas record; the shape wraps it in the
+// gas engine's lookup by id or by text.
+#define KVT_DEF_GI0(n, R, C) \
+  double KVT_CALL n(int32_t g) { return Guarded<double, R, &GasEngine::ById<&C>>(g); }
+#define KVT_DEF_GI1(n, R, C)                                           \
+  double KVT_CALL n(int32_t g, double a) {                             \
+    return Guarded<double, R, &GasEngine::ById<&C, double>>(g, a);     \
+  }
+#define KVT_DEF_GI2(n, R, C)                                                   \
+  double KVT_CALL n(int32_t g, double a, double b) {                           \
+    return Guarded<double, R, &GasEngine::ById<&C, double, double>>(g, a, b);  \
+  }
+#define KVT_DEF_GS0(n, R, C) \
+  double KVT_CALL n(const char* g) { return Guarded<double, R, &GasEngine::BySpec<&C>>(g); }
+#define KVT_DEF_GS1(n, R, C)                                           \
+  double KVT_CALL n(const char* g, double a) {                         \
+    return Guarded<double, R, &GasEngine::BySpec<&C, double>>(g, a);   \
+  }
+#define KVT_DEF_GS2(n, R, C)                                                    \
+  double KVT_CALL n(const char* g, double a, double b) {                        \
+    return Guarded<double, R, &GasEngine::BySpec<&C, double, double>>(g, a, b); \
+  }
+#define KVT_DEF_FII(n, R, C)                                        \
+  double KVT_CALL n(int32_t g1, int32_t g2) {                       \
+    return Guarded<double, R, &GasEngine::PairById<&C>>(g1, g2);    \
+  }
+#define KVT_DEF_FSS(n, R, C)                                        \
+  double KVT_CALL n(const char* g1, const char* g2) {               \
+    return Guarded<double, R, &GasEngine::PairBySpec<&C>>(g1, g2);  \
+  }
+#define KVT_DEF_AII(n, R, C)                                           \
+  int32_t KVT_CALL n(int32_t g1, int32_t g2, double a) {               \
+    return Guarded<int32_t, R, &GasEngine::AddById<&C>>(g1, g2, a);    \
+  }
+#define KVT_DEF_IS1(n, R, C) \
+  int32_t KVT_CALL n(const char* a) { return Guarded<int32_t, R, &C>(a); }
+#define KVT_DEF_CI1(n, R, C) \
+  const char* KVT_CALL n(int32_t a) { return Guarded<const char*, R, &C>(a); }
+#define KVT_DEF_CS1(n, R, C) \
+  const char* KVT_CALL n(const char* a) { return Guarded<const char*, R, &C>(a); }
+#define KVT_DEF_D12(n, R, C)                                                                 \
+  double KVT_CALL n(double a, double b, double c, double d, double e, double f, double g,    \
+                    double h, double i, double j, double k, double l) {                      \
+    return Guarded<double, R, &C>(a, b, c, d, e, f, g, h, i, j, k, l);                       \
+  }
+
 #define KVT_DEFINE(ord, name, shape, rule, core, doc) KVT_DEF_##shape(name, rules::rule, core)
 
 extern "C" {

@@ -21,6 +21,8 @@ constexpr double kTSplit = 1073.15;             // K; above it the pressure limi
 constexpr double kPHighT = 10000000.0;          // Pa; pressure limit above kTSplit
 constexpr double kTCrit = 647.096;              // K; top of the saturation families
 constexpr double kPCrit = 22064000.0;           // Pa; top of kvtTSP
+constexpr double kGasTMin = 200.0;              // K; span of the gas families
+constexpr double kGasTMax = 2500.0;             // K
 
 namespace rules {
 
@@ -128,6 +130,16 @@ struct EXPX {
   static bool Fails(Engine&, double p, double t, double x, double p2, X&&...) {
     return PTBase(p, t) || Pressure(p2) || Dryness(x) || HighT(p, t);
   }
+};
+
+// Gases by gas and T, or by gas, p and T: only T is tested, and before the
+// gas is looked up, so a bad T and a bad gas at once give 2.
+struct GT {
+  static bool GasT(double t) { return t < kGasTMin || t > kGasTMax; }
+  template <class G>
+  static bool Fails(Engine&, G, double t) { return GasT(t); }
+  template <class G>
+  static bool Fails(Engine&, G, double, double t) { return GasT(t); }
 };
 
 }  // namespace rules

@@ -6,15 +6,13 @@
 #include <cmath>
 #include <cstdint>
 
+#include "frame/raise.h"
 #include "regions/gibbs.h"
 #include "regions/power_table.h"
 
 namespace kvt {
 
 class Engine;
-
-// Raised failure: an integer code, caught only by the guarded call.
-[[noreturn]] inline void raise(int32_t code) { throw code; }
 
 // Stop tests of the iterative solves, inclusive and strict. A NaN counts as
 // inside the band: the solve ends at once and the NaN reaches the finiteness
