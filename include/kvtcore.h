@@ -297,6 +297,16 @@
   X(140, kvtJOULETHOMPSON3PT, D2, None, WaterCalculator::JOULETHOMPSON3PT, "p [Pa], T [K]: Joule-Thomson coefficient [K/Pa]") \
   X(141, kvtVUSHCVWDERPT3PT, M2, None, WaterCalculator::VUSHCVWDERPT3PT, "p [Pa], T [K]: the 14 outputs") \
   /* ---- Region 3 inversions ---- */ \
+  X(161, kvtT3PH, D2, None, WaterCalculator::T3PH, "p [Pa], h [J/kg]: temperature [K]") \
+  X(162, kvtT3PS, D2, None, WaterCalculator::T3PS, "p [Pa], s [J/(kg K)]: temperature [K]") \
+  X(258, kvtP3HS, D2, None, WaterCalculator::P3HS, "h [J/kg], s [J/(kg K)]: pressure [Pa]") \
+  X(259, kvtT3HS, D2, None, WaterCalculator::T3HS, "h [J/kg], s [J/(kg K)]: temperature [K]") \
+  X(267, kvtV3HS, D2, None, WaterCalculator::V3HS, "h [J/kg], s [J/(kg K)]: specific volume [m3/kg]") \
+  X(278, kvtV3PH, D2, None, WaterCalculator::V3PH, "p [Pa], h [J/kg]: specific volume [m3/kg]") \
+  X(279, kvtV3PS, D2, None, WaterCalculator::V3PS, "p [Pa], s [J/(kg K)]: specific volume [m3/kg]") \
+  X(280, kvtRT3HS, P2, None, WaterCalculator::RT3HS, "h [J/kg], s [J/(kg K)]: density [kg/m3], T [K]") \
+  X(281, kvtPT3HS, P2, None, WaterCalculator::PT3HS, "h [J/kg], s [J/(kg K)]: p [Pa], T [K]") \
+  X(293, kvtT3RH, D2, None, WaterCalculator::T3RH, "rho [kg/m3], h [J/kg]: temperature [K]") \
   /* ---- Region 5 ---- */ \
   X(142, kvtV5PT, D2, None, WaterCalculator::V5PT, "p [Pa], T [K]: specific volume [m3/kg]") \
   X(143, kvtU5PT, D2, None, WaterCalculator::U5PT, "p [Pa], T [K]: internal energy [J/kg]") \

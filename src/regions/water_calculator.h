@@ -224,6 +224,40 @@ class WaterCalculator {
   double NEWTON2RH(double density, double h, double& p, double& T);
 
   // ---- Region 3 inversions ----
+  // The 3a / 3b split by p, h: enthalpy on the boundary line at pressure p.
+  double H3AB(double p) const;
+  // Backward equations of the two subregions, and the same with the
+  // subregion chosen: by h against H3AB(p), or by s against the split entropy.
+  double T3APHBACK(double p, double h);
+  double T3BPHBACK(double p, double h);
+  double V3APHBACK(double p, double h);
+  double V3BPHBACK(double p, double h);
+  double T3APSBACK(double p, double s);
+  double T3BPSBACK(double p, double s);
+  double V3APSBACK(double p, double s);
+  double V3BPSBACK(double p, double s);
+  double P3AHSBACK(double h, double s);
+  double P3BHSBACK(double h, double s);
+  double T3PHBACK(double p, double h);
+  double V3PHBACK(double p, double h);
+  double T3PSBACK(double p, double s);
+  double V3PSBACK(double p, double s);
+  double P3HSBACK(double h, double s);
+  // Density and T in one call, refined unless toleranceMode is 0; result 1.
+  double R3PHSOLVE(double p, double h, double& rho, double& T);
+  double R3PSSOLVE(double p, double s, double& rho, double& T);
+  // Newton in (density, T) for given h, s, from the caller's start values.
+  void R3HSSOLVE(double h, double s, double& rho, double& T);
+  double T3PH(double p, double h);
+  double V3PH(double p, double h);
+  double T3PS(double p, double s);
+  double V3PS(double p, double s);
+  double P3HS(double h, double s);
+  double T3HS(double h, double s);
+  double V3HS(double h, double s);
+  double RT3HS(double h, double s, double& rho, double& T);
+  double PT3HS(double h, double s, double& p, double& T);
+  double T3RH(double rho, double h);
 
   // ---- Composites by p, h; p, s; h, s ----
 
@@ -292,6 +326,9 @@ class WaterCalculator {
   double T2PHBACK(double p, double h);
   double T2PSBACK(double p, double s);
   double P2HSBACK(double h, double s);
+  // Start of the (h, s) group: p from backward p(h,s), then T and density
+  // from the backward equations by p,h and p,s at that p.
+  void RT3HSBACK(double h, double s, double& p, double& rho, double& T);
 };
 
 }  // namespace kvt
