@@ -149,7 +149,8 @@ TEST_F(Inversions5, RoundTripsOverTheRegion) {
 }
 
 // With the range check on, a solved T within the stop band above 2273.15 K
-// is put on the bound; further above, or below 1073.15 K, it stays.
+// is put on the bound; further above, just below it, or below 1073.15 K, it
+// stays.
 TEST_F(Inversions5, OnlyTheUpperEndIsSnapped) {
   for (double p : {1e5, 5e6}) {
     SCOPED_TRACE(testing::Message() << "p=" << p);
@@ -158,6 +159,7 @@ TEST_F(Inversions5, OnlyTheUpperEndIsSnapped) {
     EXPECT_EQ(kvtT5PH(p, ha), kTHigh);
     EXPECT_EQ(kvtT5PS(p, sa), kTHigh);
     EXPECT_NEAR(kvtT5PH(p, kvtH5PT(p, 2300)), 2300, 1e-8);
+    EXPECT_LT(kvtT5PH(p, kvtH5PT(p, kTHigh - 1e-9)), kTHigh);
     const double tb = kvtT5PH(p, kvtH5PT(p, below)), sb = kvtT5PS(p, kvtS5PT(p, below));
     EXPECT_LT(tb, kTMid);
     EXPECT_LT(sb, kTMid);
