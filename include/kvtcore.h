@@ -318,6 +318,12 @@
   X(149, kvtJOULETHOMPSON5PT, D2, None, WaterCalculator::JOULETHOMPSON5PT, "p [Pa], T [K]: Joule-Thomson coefficient [K/Pa]") \
   X(150, kvtVUSHCVWDERPT5PT, M2, None, WaterCalculator::VUSHCVWDERPT5PT, "p [Pa], T [K]: the 14 outputs") \
   /* ---- Region 5 inversions ---- */ \
+  X(163, kvtT5PH, D2, None, WaterCalculator::T5PH, "p [Pa], h [J/kg]: temperature [K]") \
+  X(164, kvtT5PS, D2, None, WaterCalculator::T5PS, "p [Pa], s [J/(kg K)]: temperature [K]") \
+  X(272, kvtP5HS, D2, None, WaterCalculator::P5HS, "h [J/kg], s [J/(kg K)]: pressure [Pa]") \
+  X(273, kvtT5HS, D2, None, WaterCalculator::T5HS, "h [J/kg], s [J/(kg K)]: temperature [K]") \
+  X(276, kvtPT5HS, P2, None, WaterCalculator::PT5HS, "h [J/kg], s [J/(kg K)]: p [Pa], T [K]") \
+  X(296, kvtPT5RH, P2, None, WaterCalculator::PT5RH, "density [kg/m3], h [J/kg]: p [Pa], T [K]") \
   /* ---- Help and about ---- */ \
   /* ---- Gases ---- */ \
   X(306, kvtgSETCALCDISSMODE, I1, None, GasEngine::SETCALCDISSMODE, "dissociation mode: reserved, always error 8") \

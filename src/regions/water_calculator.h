@@ -222,6 +222,13 @@ class WaterCalculator {
   double NEWTON1RH(double density, double h, double& p, double& T);
   double NEWTON2HS(double h, double s, double& p, double& T);
   double NEWTON2RH(double density, double h, double& p, double& T);
+  // Region 5 has no backward equations: straight-line starts and Newton.
+  double T5PH(double p, double h);
+  double T5PS(double p, double s);
+  double PT5HS(double h, double s, double& p, double& T);
+  double P5HS(double h, double s);
+  double T5HS(double h, double s);
+  double PT5RH(double rho, double h, double& p, double& T);
 
   // ---- Region 3 inversions ----
   // The 3a / 3b split by p, h: enthalpy on the boundary line at pressure p.
@@ -318,6 +325,15 @@ class WaterCalculator {
   Gibbs Region2Residual(double p, double tau);
   template <int S>
   void Region2Ideal(PowerTable& table, double tau, Gibbs& g);
+  // Region 5 inversions: the crude start of (p, T) from (h, s), and the two
+  // Newton solves in (p, T) on the residuals of h, s and of v, h.
+  void START5HS(double h, double s, double& p, double& T);
+  void NEWTON5HS(double h, double s, double& p, double& T);
+  void NEWTON5RH(double rho, double h, double& p, double& T);
+  template <int SA>
+  void Region5Pi(double pi);
+  template <int SA, int SB>
+  Gibbs Region5Pass(double tau, Gibbs start, int32_t countB);
   template <int SA, int SB>
   Gibbs Region5Sums(double pi, double tau, Gibbs start, int32_t countB);
   Gibbs Region2Full(double p, double tau);
