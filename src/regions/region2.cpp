@@ -19,22 +19,10 @@ Gibbs WaterCalculator::Region2Residual(double p, double tau) {
   return {t.s, t.sA, t.sAA, t.sB, t.sBB, t.sAB};
 }
 
-// Ideal part: adds the nine terms in stored order to gamma and its tau
-// derivatives, reading tau^(J0 - S) from `table` refilled with tau. The log
-// and 1/pi terms are the callers'.
+// Ideal part: the nine terms of the table, tau in `table`.
 template <int S>
 void WaterCalculator::Region2Ideal(PowerTable& table, double tau, Gibbs& g) {
-  using namespace region2;
-  constexpr int32_t count = FillCount(J0, S);
-  table.Fill(tau, count);
-  double t[3] = {1.0, 1.0, 1.0};
-  for (int k = 0; k <= S; ++k) t[k] = table.Power(k);
-  for (int i = 0; i < 9; ++i) {
-    const double e = N0[i] * table.Power(J0[i] - S), j = J0[i];
-    g.g += e * t[S];
-    g.gt += j * e * t[S - 1];
-    if constexpr (S >= 2) g.gtt += j * (j - 1) * e * t[S - 2];
-  }
+  AddIdealTerms<S>(table, tau, region2::N0, region2::J0, g);
 }
 
 double WaterCalculator::V2PT(double p, double T) {

@@ -178,6 +178,20 @@ class WaterCalculator {
   // ---- Composites by p, h; p, s; h, s ----
 
   // ---- Expansion and metastable steam ----
+  // Metastable (subcooled) vapour by p, T.
+  double VMSPT(double p, double T);
+  double UMSPT(double p, double T);
+  double SMSPT(double p, double T);
+  double HMSPT(double p, double T);
+  double CPMSPT(double p, double T);
+  double CVMSPT(double p, double T);
+  double WMSPT(double p, double T);
+  double JOULETHOMPSONMSPT(double p, double T);
+  double THERMCONDMSPT(double p, double T);
+  double DYNVISMSPT(double p, double T);
+  double PRANDTLEMSPT(double p, double T);
+  double KINVISMSPT(double p, double T);
+  double KMSPT(double p, double T);
 
   // ---- Transport ----
   double THERMCONDRT(double rho, double T);
@@ -223,6 +237,8 @@ class WaterCalculator {
   Gibbs Region2Residual(double p, double tau);
   template <int S>
   void Region2Ideal(PowerTable& table, double tau, Gibbs& g);
+  template <int SA, int SB, int S>
+  Gibbs MetastableSums(double pi, double tau);
   template <int SA, int SB>
   Gibbs Region5Sums(double pi, double tau, Gibbs start, int32_t countB);
 };
