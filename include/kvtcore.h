@@ -146,6 +146,19 @@
   /* ---- Composites by h, s ---- */ \
   /* ---- Expansion ---- */ \
   /* ---- Metastable steam ---- */ \
+  X(85, kvtVMSPT, D2, MS, WaterCalculator::VMSPT, "p [Pa], T [K]: specific volume [m3/kg] of metastable steam") \
+  X(86, kvtUMSPT, D2, MS, WaterCalculator::UMSPT, "p [Pa], T [K]: internal energy [J/kg] of metastable steam") \
+  X(87, kvtSMSPT, D2, MS, WaterCalculator::SMSPT, "p [Pa], T [K]: entropy [J/(kg K)] of metastable steam") \
+  X(88, kvtHMSPT, D2, MS, WaterCalculator::HMSPT, "p [Pa], T [K]: enthalpy [J/kg] of metastable steam") \
+  X(89, kvtCPMSPT, D2, MS, WaterCalculator::CPMSPT, "p [Pa], T [K]: cp [J/(kg K)] of metastable steam") \
+  X(90, kvtCVMSPT, D2, MS, WaterCalculator::CVMSPT, "p [Pa], T [K]: cv [J/(kg K)] of metastable steam") \
+  X(91, kvtWMSPT, D2, MS, WaterCalculator::WMSPT, "p [Pa], T [K]: speed of sound [m/s] of metastable steam") \
+  X(92, kvtTHERMCONDMSPT, D2, MS, WaterCalculator::THERMCONDMSPT, "p [Pa], T [K]: thermal conductivity [W/(m K)] of metastable steam") \
+  X(93, kvtDYNVISMSPT, D2, MS, WaterCalculator::DYNVISMSPT, "p [Pa], T [K]: dynamic viscosity [Pa s] of metastable steam") \
+  X(94, kvtPRANDTLEMSPT, D2, MS, WaterCalculator::PRANDTLEMSPT, "p [Pa], T [K]: Prandtl number [-] of metastable steam") \
+  X(95, kvtKINVISMSPT, D2, MS, WaterCalculator::KINVISMSPT, "p [Pa], T [K]: kinematic viscosity [m2/s] of metastable steam") \
+  X(96, kvtKMSPT, D2, MS, WaterCalculator::KMSPT, "p [Pa], T [K]: isentropic exponent [-] of metastable steam") \
+  X(97, kvtJOULETHOMPSONMSPT, D2, MS, WaterCalculator::JOULETHOMPSONMSPT, "p [Pa], T [K]: Joule-Thomson coefficient [K/Pa] of metastable steam") \
   /* ---- Saturated steam, saturated water, wet steam, dryness ---- */ \
   X(172, kvtVSST, D1, T, WaterCalculator::VSST, "T [K]: specific volume [m3/kg] of saturated steam") \
   X(173, kvtVSWT, D1, T, WaterCalculator::VSWT, "T [K]: specific volume [m3/kg] of saturated water") \

@@ -140,6 +140,28 @@ struct GT {
   static bool Fails(Engine&, G, double t) { return GasT(t); }
   template <class G>
   static bool Fails(Engine&, G, double, double t) { return GasT(t); }
+// The pressure test of the metastable family. It reads "p below the lowest
+// pressure and at once above 10 MPa", which no real p can be; each half is
+// negated rather than flipped, so a NaN (for which every comparison is false)
+// makes both halves true. It thus stops exactly the NaN pressures, and lets
+// through every real one, infinities included, whatever the range of the
+// equation: the only test of the library that catches a NaN input.
+inline bool MSPressure(double p) { return !(p >= kPMin) && !(kPHighT >= p); }
+
+// Metastable steam by p, T: the pressure test; T no higher than the
+// saturation temperature with the margin F = 1 + tolerance; and the state
+// above the 5 % moisture line, judged by the dryness that the metastable
+// enthalpy would give on the saturation line at that widened temperature.
+struct MS {
+  template <class... X>
+  static bool Fails(Engine& e, double p, double t, X&&...) {
+    if (MSPressure(p)) return true;
+    const double F = 1 + e.tolerance;
+    const double Tb = F * e.water.TSP(p);
+    if (t > Tb) return true;
+    const double y = e.water.XSTH(Tb, e.water.HMSPT(p, t));
+    return 0.95 * F > y;
+  }
 };
 
 }  // namespace rules

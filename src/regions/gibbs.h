@@ -65,6 +65,24 @@ struct Gibbs {
   double g = 0, gp = 0, gpp = 0, gt = 0, gtt = 0, gpt = 0;
 };
 
+// Ideal-gas part of a steam equation: adds n0 tau^J0 over the terms, in
+// stored order, to gamma and its tau derivatives. `table` is refilled with
+// tau and each term reads tau^(J0 - S) once, so even terms whose factor is 0
+// take the same pattern. The log and 1/pi terms are the callers'.
+template <int S, size_t N>
+inline void AddIdealTerms(PowerTable& table, double tau, const double (&n0)[N],
+                          const int32_t (&J0)[N], Gibbs& g) {
+  table.Fill(tau, FillCount(J0, S));
+  double t[3] = {1.0, 1.0, 1.0};
+  for (int k = 0; k <= S; ++k) t[k] = table.Power(k);
+  for (size_t i = 0; i < N; ++i) {
+    const double e = n0[i] * table.Power(J0[i] - S), j = J0[i];
+    g.g += e * t[S];
+    g.gt += j * e * t[S - 1];
+    if constexpr (S >= 2) g.gtt += j * (j - 1) * e * t[S - 2];
+  }
+}
+
 // The fourteen outputs, in the order of the exports' pointers: v, u, s, h, cv,
 // w, (dv/dp)T, (du/dp)T, (ds/dp)T, (dh/dp)T, (dv/dT)p, (du/dT)p, (ds/dT)p, cp.
 using Out14 = double[14];

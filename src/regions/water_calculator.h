@@ -269,6 +269,20 @@ class WaterCalculator {
   // ---- Composites by p, h; p, s; h, s ----
 
   // ---- Expansion and metastable steam ----
+  // Metastable (subcooled) vapour by p, T.
+  double VMSPT(double p, double T);
+  double UMSPT(double p, double T);
+  double SMSPT(double p, double T);
+  double HMSPT(double p, double T);
+  double CPMSPT(double p, double T);
+  double CVMSPT(double p, double T);
+  double WMSPT(double p, double T);
+  double JOULETHOMPSONMSPT(double p, double T);
+  double THERMCONDMSPT(double p, double T);
+  double DYNVISMSPT(double p, double T);
+  double PRANDTLEMSPT(double p, double T);
+  double KINVISMSPT(double p, double T);
+  double KMSPT(double p, double T);
 
   // ---- Transport ----
   double THERMCONDRT(double rho, double T);
@@ -334,6 +348,8 @@ class WaterCalculator {
   void Region5Pi(double pi);
   template <int SA, int SB>
   Gibbs Region5Pass(double tau, Gibbs start, int32_t countB);
+  template <int SA, int SB, int S>
+  Gibbs MetastableSums(double pi, double tau);
   template <int SA, int SB>
   Gibbs Region5Sums(double pi, double tau, Gibbs start, int32_t countB);
   Gibbs Region2Full(double p, double tau);
