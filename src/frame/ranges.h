@@ -140,6 +140,8 @@ struct GT {
   static bool Fails(Engine&, G, double t) { return GasT(t); }
   template <class G>
   static bool Fails(Engine&, G, double, double t) { return GasT(t); }
+};
+
 // The pressure test of the metastable family. It reads "p below the lowest
 // pressure and at once above 10 MPa", which no real p can be; each half is
 // negated rather than flipped, so a NaN (for which every comparison is false)

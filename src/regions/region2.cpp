@@ -6,26 +6,6 @@
 
 namespace kvt {
 
-<<<<<<< HEAD
-=======
-// Residual part: pi in powerA, tau - 0.5 in powerB.
-template <int SA, int SB>
-Gibbs WaterCalculator::Region2Residual(double p, double tau) {
-  using namespace region2;
-  constexpr int32_t countA = FillCount(I, SA), countB = FillCount(J, SB);
-  powerA.Fill(p / P2STAR, countA);
-  powerB.Fill(tau - 0.5, countB);
-  const TermSums t = SumTerms<SA, SB>(powerA, powerB, N, I, J);
-  return {t.s, t.sA, t.sAA, t.sB, t.sBB, t.sAB};
-}
-
-// Ideal part: the nine terms of the table, tau in `table`.
-template <int S>
-void WaterCalculator::Region2Ideal(PowerTable& table, double tau, Gibbs& g) {
-  AddIdealTerms<S>(table, tau, region2::N0, region2::J0, g);
-}
-
->>>>>>> ms
 double WaterCalculator::V2PT(double p, double T) {
   const Gibbs g = Region2Residual<1, 0>(p, TSTAR2 / T);
   return (g.gp + 1.0 / (p / P2STAR)) / P2STAR * RGAS * T;

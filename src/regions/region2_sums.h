@@ -35,16 +35,7 @@ Gibbs WaterCalculator::Region2Residual(double p, double tau) {
 // and 1/pi terms are the callers'.
 template <int S>
 void WaterCalculator::Region2Ideal(PowerTable& table, double tau, Gibbs& g) {
-  using namespace region2;
-  table.Fill(tau, FillCount(J0, S));
-  double t[3] = {1.0, 1.0, 1.0};
-  for (int k = 0; k <= S; ++k) t[k] = table.Power(k);
-  for (int i = 0; i < 9; ++i) {
-    const double e = N0[i] * table.Power(J0[i] - S), j = J0[i];
-    g.g += e * t[S];
-    g.gt += j * e * t[S - 1];
-    if constexpr (S >= 2) g.gtt += j * (j - 1) * e * t[S - 2];
-  }
+  AddIdealTerms<S>(table, tau, region2::N0, region2::J0, g);
 }
 
 }  // namespace kvt
