@@ -142,9 +142,82 @@
   X(27, kvtKINVISPTX, D3, PTX, WaterCalculator::KINVISPTX, "p [Pa], T [K], x [-]: kinematic viscosity [m2/s]") \
   X(28, kvtKPTX, D3, PTX, WaterCalculator::KPTX, "p [Pa], T [K], x [-]: isentropic exponent [-]") \
   /* ---- Composites by p, h ---- */ \
+  X(29, kvtTPH, D2, PH, WaterCalculator::TPH, "p [Pa], h [J/kg]: temperature [K]") \
+  X(31, kvtUPH, D2, PH, WaterCalculator::UPH, "p [Pa], h [J/kg]: internal energy [J/kg]") \
+  X(32, kvtVPH, D2, PH, WaterCalculator::VPH, "p [Pa], h [J/kg]: specific volume [m3/kg]") \
+  X(33, kvtSPH, D2, PH, WaterCalculator::SPH, "p [Pa], h [J/kg]: entropy [J/(kg K)]") \
+  X(34, kvtCPPH, D2, PH, WaterCalculator::CPPH, "p [Pa], h [J/kg]: cp [J/(kg K)]") \
+  X(35, kvtCVPH, D2, PH, WaterCalculator::CVPH, "p [Pa], h [J/kg]: cv [J/(kg K)]") \
+  X(36, kvtWPH, D2, PH, WaterCalculator::WPH, "p [Pa], h [J/kg]: speed of sound [m/s]") \
+  X(37, kvtJOULETHOMPSONPH, D2, PH, WaterCalculator::JOULETHOMPSONPH, "p [Pa], h [J/kg]: Joule-Thomson coefficient [K/Pa]") \
+  X(38, kvtDYNVISPH, D2, PH, WaterCalculator::DYNVISPH, "p [Pa], h [J/kg]: dynamic viscosity [Pa s]") \
+  X(39, kvtKINVISPH, D2, PH, WaterCalculator::KINVISPH, "p [Pa], h [J/kg]: kinematic viscosity [m2/s]") \
+  X(40, kvtPRANDTLEPH, D2, PH, WaterCalculator::PRANDTLEPH, "p [Pa], h [J/kg]: Prandtl number [-]") \
+  X(41, kvtKPH, D2, PH, WaterCalculator::KPH, "p [Pa], h [J/kg]: isentropic exponent [-]") \
+  X(42, kvtTHERMCONDPH, D2, PH, WaterCalculator::THERMCONDPH, "p [Pa], h [J/kg]: thermal conductivity [W/(m K)]") \
+  X(301, kvtXPH, D2, None, WaterCalculator::XPH, "p [Pa], h [J/kg]: dryness x [-]") \
   /* ---- Composites by p, s ---- */ \
+  X(30, kvtTPS, D2, PS, WaterCalculator::TPS, "p [Pa], s [J/(kg K)]: temperature [K]") \
+  X(43, kvtUPS, D2, PS, WaterCalculator::UPS, "p [Pa], s [J/(kg K)]: internal energy [J/kg]") \
+  X(44, kvtVPS, D2, PS, WaterCalculator::VPS, "p [Pa], s [J/(kg K)]: specific volume [m3/kg]") \
+  X(45, kvtHPS, D2, PS, WaterCalculator::HPS, "p [Pa], s [J/(kg K)]: enthalpy [J/kg]") \
+  X(46, kvtCPPS, D2, PS, WaterCalculator::CPPS, "p [Pa], s [J/(kg K)]: cp [J/(kg K)]") \
+  X(47, kvtCVPS, D2, PS, WaterCalculator::CVPS, "p [Pa], s [J/(kg K)]: cv [J/(kg K)]") \
+  X(48, kvtWPS, D2, PS, WaterCalculator::WPS, "p [Pa], s [J/(kg K)]: speed of sound [m/s]") \
+  X(49, kvtJOULETHOMPSONPS, D2, PS, WaterCalculator::JOULETHOMPSONPS, "p [Pa], s [J/(kg K)]: Joule-Thomson coefficient [K/Pa]") \
+  X(50, kvtDYNVISPS, D2, PS, WaterCalculator::DYNVISPS, "p [Pa], s [J/(kg K)]: dynamic viscosity [Pa s]") \
+  X(51, kvtKINVISPS, D2, PS, WaterCalculator::KINVISPS, "p [Pa], s [J/(kg K)]: kinematic viscosity [m2/s]") \
+  X(52, kvtPRANDTLEPS, D2, PS, WaterCalculator::PRANDTLEPS, "p [Pa], s [J/(kg K)]: Prandtl number [-]") \
+  X(53, kvtKPS, D2, PS, WaterCalculator::KPS, "p [Pa], s [J/(kg K)]: isentropic exponent [-]") \
+  X(54, kvtTHERMCONDPS, D2, PS, WaterCalculator::THERMCONDPS, "p [Pa], s [J/(kg K)]: thermal conductivity [W/(m K)]") \
+  X(302, kvtXPS, D2, None, WaterCalculator::XPS, "p [Pa], s [J/(kg K)]: dryness x [-]") \
   /* ---- Composites by h, s ---- */ \
+  X(262, kvtPHS, D2, None, WaterCalculator::PHS, "h [J/kg], s [J/(kg K)]: pressure [Pa]") \
+  X(263, kvtTHS, D2, None, WaterCalculator::THS, "h [J/kg], s [J/(kg K)]: temperature [K]") \
+  X(282, kvtVHS, D2, None, WaterCalculator::VHS, "h [J/kg], s [J/(kg K)]: specific volume [m3/kg]") \
+  X(283, kvtUHS, D2, None, WaterCalculator::UHS, "h [J/kg], s [J/(kg K)]: internal energy [J/kg]") \
+  X(284, kvtCPHS, D2, None, WaterCalculator::CPHS, "h [J/kg], s [J/(kg K)]: cp [J/(kg K)]") \
+  X(285, kvtCVHS, D2, None, WaterCalculator::CVHS, "h [J/kg], s [J/(kg K)]: cv [J/(kg K)]") \
+  X(286, kvtWHS, D2, None, WaterCalculator::WHS, "h [J/kg], s [J/(kg K)]: speed of sound [m/s]") \
+  X(287, kvtJOULETHOMPSONHS, D2, None, WaterCalculator::JOULETHOMPSONHS, "h [J/kg], s [J/(kg K)]: Joule-Thomson coefficient [K/Pa]") \
+  X(288, kvtTHERMCONDHS, D2, None, WaterCalculator::THERMCONDHS, "h [J/kg], s [J/(kg K)]: thermal conductivity [W/(m K)]") \
+  X(289, kvtDYNVISHS, D2, None, WaterCalculator::DYNVISHS, "h [J/kg], s [J/(kg K)]: dynamic viscosity [Pa s]") \
+  X(290, kvtPRANDTLEHS, D2, None, WaterCalculator::PRANDTLEHS, "h [J/kg], s [J/(kg K)]: Prandtl number [-]") \
+  X(291, kvtKINVISHS, D2, None, WaterCalculator::KINVISHS, "h [J/kg], s [J/(kg K)]: kinematic viscosity [m2/s]") \
+  X(292, kvtKHS, D2, None, WaterCalculator::KHS, "h [J/kg], s [J/(kg K)]: isentropic exponent [-]") \
+  X(300, kvtXHS, D2, None, WaterCalculator::XHS, "h [J/kg], s [J/(kg K)]: dryness x [-]") \
+  X(277, kvtPTHS, P2, None, WaterCalculator::PTHS, "h [J/kg], s [J/(kg K)]: p [Pa], T [K]") \
   /* ---- Expansion ---- */ \
+  X(55, kvtTEXPANSIONPTPEFF, D4, EXP, WaterCalculator::EXPANSIONPTPEFF<&WaterCalculator::TPH>, "p1 [Pa], T1 [K], p2 [Pa], efficiency [-]: outlet temperature [K]") \
+  X(56, kvtVEXPANSIONPTPEFF, D4, EXP, WaterCalculator::EXPANSIONPTPEFF<&WaterCalculator::VPH>, "p1 [Pa], T1 [K], p2 [Pa], efficiency [-]: outlet specific volume [m3/kg]") \
+  X(57, kvtUEXPANSIONPTPEFF, D4, EXP, WaterCalculator::EXPANSIONPTPEFF<&WaterCalculator::UPH>, "p1 [Pa], T1 [K], p2 [Pa], efficiency [-]: outlet internal energy [J/kg]") \
+  X(58, kvtHEXPANSIONPTPEFF, D4, EXP, WaterCalculator::EXPANSIONPTPEFF<&WaterCalculator::HOUTLET>, "p1 [Pa], T1 [K], p2 [Pa], efficiency [-]: outlet enthalpy [J/kg]") \
+  X(59, kvtSEXPANSIONPTPEFF, D4, EXP, WaterCalculator::EXPANSIONPTPEFF<&WaterCalculator::SPH>, "p1 [Pa], T1 [K], p2 [Pa], efficiency [-]: outlet entropy [J/(kg K)]") \
+  X(60, kvtCPEXPANSIONPTPEFF, D4, EXP, WaterCalculator::EXPANSIONPTPEFF<&WaterCalculator::CPPH>, "p1 [Pa], T1 [K], p2 [Pa], efficiency [-]: outlet cp [J/(kg K)]") \
+  X(61, kvtCVEXPANSIONPTPEFF, D4, EXP, WaterCalculator::EXPANSIONPTPEFF<&WaterCalculator::CVPH>, "p1 [Pa], T1 [K], p2 [Pa], efficiency [-]: outlet cv [J/(kg K)]") \
+  X(62, kvtWEXPANSIONPTPEFF, D4, EXP, WaterCalculator::EXPANSIONPTPEFF<&WaterCalculator::WPH>, "p1 [Pa], T1 [K], p2 [Pa], efficiency [-]: outlet speed of sound [m/s]") \
+  X(63, kvtTHERMCONDEXPANSIONPTPEFF, D4, EXP, WaterCalculator::EXPANSIONPTPEFF<&WaterCalculator::THERMCONDPH>, "p1 [Pa], T1 [K], p2 [Pa], efficiency [-]: outlet thermal conductivity [W/(m K)]") \
+  X(64, kvtKINVISEXPANSIONPTPEFF, D4, EXP, WaterCalculator::EXPANSIONPTPEFF<&WaterCalculator::KINVISPH>, "p1 [Pa], T1 [K], p2 [Pa], efficiency [-]: outlet kinematic viscosity [m2/s]") \
+  X(65, kvtDYNVISEXPANSIONPTPEFF, D4, EXP, WaterCalculator::EXPANSIONPTPEFF<&WaterCalculator::DYNVISPH>, "p1 [Pa], T1 [K], p2 [Pa], efficiency [-]: outlet dynamic viscosity [Pa s]") \
+  X(66, kvtPRANDTLEEXPANSIONPTPEFF, D4, EXP, WaterCalculator::EXPANSIONPTPEFF<&WaterCalculator::PRANDTLEPH>, "p1 [Pa], T1 [K], p2 [Pa], efficiency [-]: outlet Prandtl number [-]") \
+  X(67, kvtKEXPANSIONPTPEFF, D4, EXP, WaterCalculator::EXPANSIONPTPEFF<&WaterCalculator::KPH>, "p1 [Pa], T1 [K], p2 [Pa], efficiency [-]: outlet isentropic exponent [-]") \
+  X(68, kvtJOULETHOMPSONEXPANSIONPTPEFF, D4, EXP, WaterCalculator::EXPANSIONPTPEFF<&WaterCalculator::JOULETHOMPSONPH>, "p1 [Pa], T1 [K], p2 [Pa], efficiency [-]: outlet Joule-Thomson coefficient [K/Pa]") \
+  X(84, kvtXEXPANSIONPTPEFF, D4, EXP, WaterCalculator::EXPANSIONPTPEFF<&WaterCalculator::XPH>, "p1 [Pa], T1 [K], p2 [Pa], efficiency [-]: outlet dryness x [-]") \
+  X(69, kvtTEXPANSIONPTXPEFF, D5, EXPX, WaterCalculator::EXPANSIONPTXPEFF<&WaterCalculator::TPH>, "p1 [Pa], T1 [K], x1 [-], p2 [Pa], efficiency [-]: outlet temperature [K]") \
+  X(70, kvtVEXPANSIONPTXPEFF, D5, EXPX, WaterCalculator::EXPANSIONPTXPEFF<&WaterCalculator::VPH>, "p1 [Pa], T1 [K], x1 [-], p2 [Pa], efficiency [-]: outlet specific volume [m3/kg]") \
+  X(71, kvtUEXPANSIONPTXPEFF, D5, EXPX, WaterCalculator::EXPANSIONPTXPEFF<&WaterCalculator::UPH>, "p1 [Pa], T1 [K], x1 [-], p2 [Pa], efficiency [-]: outlet internal energy [J/kg]") \
+  X(72, kvtHEXPANSIONPTXPEFF, D5, EXPX, WaterCalculator::EXPANSIONPTXPEFF<&WaterCalculator::HOUTLET>, "p1 [Pa], T1 [K], x1 [-], p2 [Pa], efficiency [-]: outlet enthalpy [J/kg]") \
+  X(73, kvtSEXPANSIONPTXPEFF, D5, EXPX, WaterCalculator::EXPANSIONPTXPEFF<&WaterCalculator::SPH>, "p1 [Pa], T1 [K], x1 [-], p2 [Pa], efficiency [-]: outlet entropy [J/(kg K)]") \
+  X(74, kvtCPEXPANSIONPTXPEFF, D5, EXPX, WaterCalculator::EXPANSIONPTXPEFF<&WaterCalculator::CPPH>, "p1 [Pa], T1 [K], x1 [-], p2 [Pa], efficiency [-]: outlet cp [J/(kg K)]") \
+  X(75, kvtCVEXPANSIONPTXPEFF, D5, EXPX, WaterCalculator::EXPANSIONPTXPEFF<&WaterCalculator::CVPH>, "p1 [Pa], T1 [K], x1 [-], p2 [Pa], efficiency [-]: outlet cv [J/(kg K)]") \
+  X(76, kvtWEXPANSIONPTXPEFF, D5, EXPX, WaterCalculator::EXPANSIONPTXPEFF<&WaterCalculator::WPH>, "p1 [Pa], T1 [K], x1 [-], p2 [Pa], efficiency [-]: outlet speed of sound [m/s]") \
+  X(77, kvtTHERMCONDEXPANSIONPTXPEFF, D5, EXPX, WaterCalculator::EXPANSIONPTXPEFF<&WaterCalculator::THERMCONDPH>, "p1 [Pa], T1 [K], x1 [-], p2 [Pa], efficiency [-]: outlet thermal conductivity [W/(m K)]") \
+  X(78, kvtKINVISEXPANSIONPTXPEFF, D5, EXPX, WaterCalculator::EXPANSIONPTXPEFF<&WaterCalculator::KINVISPH>, "p1 [Pa], T1 [K], x1 [-], p2 [Pa], efficiency [-]: outlet kinematic viscosity [m2/s]") \
+  X(79, kvtDYNVISEXPANSIONPTXPEFF, D5, EXPX, WaterCalculator::EXPANSIONPTXPEFF<&WaterCalculator::DYNVISPH>, "p1 [Pa], T1 [K], x1 [-], p2 [Pa], efficiency [-]: outlet dynamic viscosity [Pa s]") \
+  X(80, kvtPRANDTLEEXPANSIONPTXPEFF, D5, EXPX, WaterCalculator::EXPANSIONPTXPEFF<&WaterCalculator::PRANDTLEPH>, "p1 [Pa], T1 [K], x1 [-], p2 [Pa], efficiency [-]: outlet Prandtl number [-]") \
+  X(81, kvtKEXPANSIONPTXPEFF, D5, EXPX, WaterCalculator::EXPANSIONPTXPEFF<&WaterCalculator::KPH>, "p1 [Pa], T1 [K], x1 [-], p2 [Pa], efficiency [-]: outlet isentropic exponent [-]") \
+  X(82, kvtJOULETHOMPSONEXPANSIONPTXPEFF, D5, EXPX, WaterCalculator::EXPANSIONPTXPEFF<&WaterCalculator::JOULETHOMPSONPH>, "p1 [Pa], T1 [K], x1 [-], p2 [Pa], efficiency [-]: outlet Joule-Thomson coefficient [K/Pa]") \
+  X(83, kvtXEXPANSIONPTXPEFF, D5, EXPX, WaterCalculator::EXPANSIONPTXPEFF<&WaterCalculator::XPH>, "p1 [Pa], T1 [K], x1 [-], p2 [Pa], efficiency [-]: outlet dryness x [-]") \
   /* ---- Metastable steam ---- */ \
   X(85, kvtVMSPT, D2, MS, WaterCalculator::VMSPT, "p [Pa], T [K]: specific volume [m3/kg] of metastable steam") \
   X(86, kvtUMSPT, D2, MS, WaterCalculator::UMSPT, "p [Pa], T [K]: internal energy [J/kg] of metastable steam") \

@@ -267,8 +267,64 @@ class WaterCalculator {
   double T3RH(double rho, double h);
 
   // ---- Composites by p, h; p, s; h, s ----
+  double TPH(double p, double h);
+  double VPH(double p, double h);
+  double UPH(double p, double h);
+  double SPH(double p, double h);
+  double CPPH(double p, double h);
+  double CVPH(double p, double h);
+  double WPH(double p, double h);
+  double JOULETHOMPSONPH(double p, double h);
+  double THERMCONDPH(double p, double h);
+  double DYNVISPH(double p, double h);
+  double KINVISPH(double p, double h);
+  double PRANDTLEPH(double p, double h);
+  double KPH(double p, double h);
+  double XPH(double p, double h);
+  double TPS(double p, double s);
+  double VPS(double p, double s);
+  double UPS(double p, double s);
+  double HPS(double p, double s);
+  double CPPS(double p, double s);
+  double CVPS(double p, double s);
+  double WPS(double p, double s);
+  double JOULETHOMPSONPS(double p, double s);
+  double THERMCONDPS(double p, double s);
+  double DYNVISPS(double p, double s);
+  double KINVISPS(double p, double s);
+  double PRANDTLEPS(double p, double s);
+  double KPS(double p, double s);
+  double XPS(double p, double s);
+  double PHS(double h, double s);
+  double THS(double h, double s);
+  double PTHS(double h, double s, double& p, double& T);
+  double VHS(double h, double s);
+  double UHS(double h, double s);
+  double CPHS(double h, double s);
+  double CVHS(double h, double s);
+  double WHS(double h, double s);
+  double JOULETHOMPSONHS(double h, double s);
+  double THERMCONDHS(double h, double s);
+  double DYNVISHS(double h, double s);
+  double KINVISHS(double h, double s);
+  double PRANDTLEHS(double h, double s);
+  double KHS(double h, double s);
+  double XHS(double h, double s);
 
   // ---- Expansion and metastable steam ----
+  // The outlet enthalpy of an expansion from (p1, T1) or (p1, T1, x1) to p2
+  // with an isentropic efficiency, and the outlet property by (p2, h2).
+  double ExpansionH2(double p1, double T1, double p2, double eff);
+  double ExpansionH2X(double p1, double T1, double x1, double p2, double eff);
+  double HOUTLET(double p2, double h2);
+  template <double (WaterCalculator::*Outlet)(double, double)>
+  double EXPANSIONPTPEFF(double p1, double T1, double p2, double eff) {
+    return (this->*Outlet)(p2, ExpansionH2(p1, T1, p2, eff));
+  }
+  template <double (WaterCalculator::*Outlet)(double, double)>
+  double EXPANSIONPTXPEFF(double p1, double T1, double x1, double p2, double eff) {
+    return (this->*Outlet)(p2, ExpansionH2X(p1, T1, x1, p2, eff));
+  }
   // Metastable (subcooled) vapour by p, T.
   double VMSPT(double p, double T);
   double UMSPT(double p, double T);
@@ -293,13 +349,30 @@ class WaterCalculator {
   PowerTable powerB;
   Engine* engine;
 
- private:
+  // A resolved state: its area, and p and T, or density and T (region 3),
+  // or T and x (wet).
+  struct WaterState {
+    int32_t area;
+    double p, T, rho, x;
+  };
+  enum class Prop { V, U, S, H, CP, CV, W, JT, THERMCOND, DYNVIS, KINVIS, PRANDTLE, K };
+  WaterState StatePH(double p, double h);
+  WaterState StatePS(double p, double s);
+  WaterState StateHS(double h, double s);
+  double OfState(Prop prop, const WaterState& st, bool byHS);
+  double RegionValue(Prop prop, const WaterState& st);
+  double Region3ByPS(double (WaterCalculator::*byPT)(double, double), Prop prop, double p,
+                     double s);
+  double OutletEnthalpy(double h1, double s1, double p2, double eff);
   using PTCore = double (WaterCalculator::*)(double, double);
-  // The core of the area that WATERSTATEAREA2 gives for (p, T).
-  double ByAreaPT(PTCore r1, PTCore r2, PTCore r3, PTCore r5, double p, double T);
-  using TCore = double (WaterCalculator::*)(double);
   using RTCore = double (WaterCalculator::*)(double, double);
   using TXCore = double (WaterCalculator::*)(double, double);
+  using TCore = double (WaterCalculator::*)(double);
+  double V3RT(double rho, double T);
+
+ private:
+  // The core of the area that WATERSTATEAREA2 gives for (p, T).
+  double ByAreaPT(PTCore r1, PTCore r2, PTCore r3, PTCore r5, double p, double T);
   // A property of one saturated phase: regions 1 and 2 up to 623.15 K, above
   // it region 3 at the density solved from the rough saturation density.
   double Saturated(bool steam, PTCore r12, RTCore r3, double T);
@@ -307,7 +380,6 @@ class WaterCalculator {
   double TwoPhaseCV(bool steam, double T);
   double SaturatedThermCond(bool steam, double T);
   double SaturatedDynVis(bool steam, double T);
-  double V3RT(double rho, double T);
   // The dryness-weighted mean and its inverse over the two saturated phases.
   double Mix(TCore water, TCore steam, double T, double x);
   double Dryness(TCore water, TCore steam, double T, double y);
