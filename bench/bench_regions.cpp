@@ -3,6 +3,8 @@
 //  --benchmark_filter=H1PT --benchmark_min_time=0.01).
 #include <benchmark/benchmark.h>
 
+#include <string>
+
 #include "kvtcore.h"
 
 namespace {
@@ -24,5 +26,45 @@ void Many1(benchmark::State& state) {
                                                 &o[11], &o[12], &o[13]));
 }
 BENCHMARK(Many1);
+
+}  // namespace
+
+namespace {
+
+// Inversions by p,h, p,s and h,s in each region, with the backward equations
+// alone (mode 0) and refined on the forward equations (mode 1).
+struct Inverse {
+  const char* name;
+  double (*f)(double, double);
+  double a, b;
+};
+
+void InverseCall(benchmark::State& state, Inverse inv, int mode) {
+  kvtSETTOLERANCEMODE(mode);
+  for (auto _ : state) benchmark::DoNotOptimize(inv.f(inv.a, inv.b));
+  kvtSETTOLERANCEMODE(1);
+  if (kvtGETLASTERROR() != 0) state.SkipWithError("the call failed");
+}
+
+int RegisterInverses() {
+  // One state per region: (p, T) = (3 MPa, 500 K), (1 MPa, 600 K),
+  // (25 MPa, 650 K), (0.5 MPa, 1500 K); h and s from the forward equations.
+  const struct { const char* region; double p, T; } states[] = {
+      {"r1", 3e6, 500}, {"r2", 1e6, 600}, {"r3", 25e6, 650}, {"r5", 5e5, 1500}};
+  for (const auto& st : states) {
+    const double h = kvtHPT(st.p, st.T), s = kvtSPT(st.p, st.T);
+    const Inverse calls[] = {{"TPH", kvtTPH, st.p, h}, {"TPS", kvtTPS, st.p, s},
+                             {"HPS", kvtHPS, st.p, s}, {"PHS", kvtPHS, h, s},
+                             {"THS", kvtTHS, h, s}};
+    for (const Inverse& inv : calls)
+      for (int mode : {0, 1})
+        benchmark::RegisterBenchmark(
+            (std::string(inv.name) + "/" + st.region + "/mode" + std::to_string(mode)).c_str(),
+            InverseCall, inv, mode);
+  }
+  return 0;
+}
+
+const int registered = RegisterInverses();
 
 }  // namespace

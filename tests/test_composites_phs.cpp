@@ -129,6 +129,25 @@ TEST_F(CompositesPHS, WetStatesUseTheWetSteamFunctions) {
   EXPECT_TRUE(Near(kvtVPH(p, hmid), (kvtVSWT(T) + kvtVSST(T)) / 2, 1e-12));
 }
 
+// Between 16.5 MPa and the critical pressure the saturated enthalpies come
+// from region 3, and a state a little off the line must not take the wrong
+// phase.
+TEST_F(CompositesPHS, NearSaturationBelowTheCriticalPressure) {
+  for (double p : {16.6e6, 18e6, 20e6, 21.5e6, 22e6}) {
+    const double Ts = kvtTSP(p);
+    for (double dT : {-2.0, -0.2, 0.2, 2.0}) {
+      SCOPED_TRACE(testing::Message() << "p=" << p << " dT=" << dT);
+      const double T = Ts + dT, h = kvtHPT(p, T), s = kvtSPT(p, T);
+      const int area = kvtWATERSTATEAREA2(p, T);
+      EXPECT_EQ(kvtWATERSTATEAREAPH(p, h), area);
+      EXPECT_EQ(kvtWATERSTATEAREAPS(p, s), area);
+      EXPECT_TRUE(Near(kvtTPH(p, h), T, 1e-10));
+      EXPECT_TRUE(Near(kvtTPS(p, s), T, 1e-10));
+      EXPECT_TRUE(Near(kvtHPS(p, s), h, 1e-10));
+    }
+  }
+}
+
 TEST_F(CompositesPHS, DrynessOutsideTheWetAreaIsAnError) {
   const double p = 1e6, T = kvtTSP(p);
   EXPECT_EQ(kvtXPH(p, kvtHSWT(T)), -1.0);  // saturated water reads as liquid
