@@ -29,7 +29,9 @@
 
 #if defined(_WIN32)
 #  if defined(KVT_BUILDING)
-#    define KVT_API __declspec(dllexport)
+     /* The module-definition file, generated from the catalogue, exports
+        every row by its undecorated name and its ordinal. */
+#    define KVT_API
 #  else
 #    define KVT_API __declspec(dllimport)
 #  endif
@@ -119,6 +121,8 @@
   /* ---- Region 5 ---- */ \
   /* ---- Region 5 inversions ---- */ \
   /* ---- Help and about ---- */ \
+  X(260, kvtSHOWKVTHELP, H1, None, Engine::SHOWKVTHELP, "owner window handle (0: the active window): 1") \
+  X(261, kvtSHOWABOUT, H1, None, Engine::SHOWABOUT, "owner window handle (0: the active window): 1") \
   /* ---- Gases ---- */ \
   /* Settings, last error and constants */ \
   X(229, kvtSETTOLERANCE, D1, None, Engine::SETTOLERANCE, "relative tolerance: the value stored") \
