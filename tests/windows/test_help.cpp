@@ -104,6 +104,7 @@ Viewer ViewerState(const char* module) {
   if (m == nullptr) return v;
   using Query = int(WINAPI*)(char*, int, HWND*);
   auto query = reinterpret_cast<Query>(reinterpret_cast<void*>(GetProcAddress(m, "FakeViewerCalls")));
+  if (!CHECK(query != nullptr)) return v;  // another viewer than the stand-in
   char path[MAX_PATH] = {};
   v.calls = query(path, MAX_PATH, &v.owner);
   v.path = path;
@@ -123,8 +124,17 @@ void HelpOpens(const std::string& expected, int32_t window, HWND owner, const ch
 }
 
 struct Places {
-  std::string exe, lib, reg, install, work;
+  std::string root, exe, lib, reg, install, work;
 };
+
+// Removes what a run leaves behind (the library copy only once unloaded).
+void CleanUp(const Places& at) {
+  for (const std::string& d : {at.lib, at.reg, at.install, at.work})
+    DeleteFileA((d + "\\kvtcore6.chm").c_str());
+  DeleteFileA((at.lib + "\\kvtcore6.dll").c_str());
+  for (const std::string& d : {at.lib, at.reg, at.install, at.work, at.root})
+    RemoveDirectoryA(d.c_str());
+}
 
 void SearchOrder(const Places& at, HWND window) {
   // Nowhere: one message box with text 114 under title 100, no viewer.
@@ -190,10 +200,14 @@ void AboutBox(HWND window) {
   CHECK(WithBoxes([] { return showAbout(12345); }, [](HWND) {}) == 1);
 }
 
-// A child run of this program with one viewer situation; returns its exit code.
-DWORD Child(const char* mode, const char* dllPath, const char* viewer, const char* overrides) {
+// A child run of this program with one viewer situation; returns its exit
+// code. loadOrder is wine's load order for hhctrl.ocx in that run ("native":
+// the stand-in in this program's folder, "": none at all).
+DWORD Child(const char* mode, const char* dllPath, const char* viewer, const char* loadOrder) {
   std::string command = "\"" + ModuleFile(nullptr) + "\" \"" + dllPath + "\" \"" + viewer + "\" " + mode;
-  SetEnvironmentVariableA("WINEDLLOVERRIDES", overrides);
+  const char kOverrides[] = "Software\\Wine\\DllOverrides";
+  RegSetKeyValueA(HKEY_CURRENT_USER, kOverrides, "hhctrl.ocx", REG_SZ, loadOrder,
+                  static_cast<DWORD>(std::strlen(loadOrder) + 1));
   STARTUPINFOA si = {};
   si.cb = sizeof si;
   PROCESS_INFORMATION pi = {};
@@ -204,7 +218,7 @@ DWORD Child(const char* mode, const char* dllPath, const char* viewer, const cha
     CloseHandle(pi.hProcess);
     CloseHandle(pi.hThread);
   }
-  SetEnvironmentVariableA("WINEDLLOVERRIDES", nullptr);
+  RegDeleteKeyValueA(HKEY_CURRENT_USER, kOverrides, "hhctrl.ocx");
   return code;
 }
 
@@ -221,10 +235,12 @@ int main(int argc, char** argv) {
   Places at;
   at.exe = Folder(ModuleFile(nullptr));
   const std::string root = std::string(temp) + "kvt_help_" + std::to_string(GetCurrentProcessId());
+  at.root = root;
   at.lib = root + "\\lib";
   at.reg = root + "\\reg";
   at.install = root + "\\install";
   at.work = root + "\\work";
+  CleanUp(at);
   for (const std::string& d : {root, at.lib, at.reg, at.install, at.work}) CreateDirectoryA(d.c_str(), nullptr);
   // The library in a folder of its own, apart from this program.
   CopyFileA(argv[1], (at.lib + "\\kvtcore6.dll").c_str(), FALSE);
@@ -241,6 +257,8 @@ int main(int argc, char** argv) {
   if (mode == "--fallback") {
     // The registry names no loadable viewer: hhctrl.ocx by its plain name.
     HelpOpens("kvtcore6.chm", 0, GetActiveWindow(), "hhctrl.ocx");
+    FreeLibrary(dll);
+    CleanUp(at);
     return check::Summary();
   }
   if (mode == "--none") {
@@ -250,6 +268,8 @@ int main(int argc, char** argv) {
     SetDefault(HKEY_CLASSES_ROOT, kViewerClass, argv[2]);
     CHECK(WithBoxes([] { return showHelp(0); }, [](HWND) {}) == 0);
     CHECK(GetModuleHandleA("fake_viewer.dll") == nullptr);
+    FreeLibrary(dll);
+    CleanUp(at);
     return check::Summary();
   }
   DeleteFileA((at.work + "\\kvtcore6.chm").c_str());
@@ -270,16 +290,19 @@ int main(int argc, char** argv) {
   SearchOrder(at, window);
   AboutBox(window);
 
-  // The two viewer situations that need a fresh library: in child runs.
+  // The two viewer situations that need a fresh library: in child runs,
+  // which find the help file in their working folder.
+  RegDeleteTreeA(HKEY_CURRENT_USER, "SOFTWARE\\Brendal");
   SetDefault(HKEY_CLASSES_ROOT, kViewerClass, root + "\\no_such_viewer.dll");
   const std::string standIn = at.exe + "\\hhctrl.ocx";
   CopyFileA(argv[2], standIn.c_str(), FALSE);
-  CHECK(Child("--fallback", argv[1], argv[2], "hhctrl.ocx=n") == 0);
+  CHECK(Child("--fallback", argv[1], argv[2], "native") == 0);
   DeleteFileA(standIn.c_str());
-  CHECK(Child("--none", argv[1], argv[2], "hhctrl.ocx=") == 0);
+  CHECK(Child("--none", argv[1], argv[2], "") == 0);
 
   SetDefault(HKEY_CLASSES_ROOT, kViewerClass, viewerBefore);
-  RegDeleteTreeA(HKEY_CURRENT_USER, "SOFTWARE\\Brendal");
   DestroyWindow(window);
+  FreeLibrary(dll);
+  CleanUp(at);
   return check::Summary();
 }
