@@ -4,7 +4,7 @@
 // file is found, the about box, and the owner window. The boxes are modal,
 // so a watcher thread finds each one, checks it and posts it a close.
 //
-//   test_help.exe path\to\kvtcore6.dll path\to\fake_viewer.dll
+//   test_help.exe path\to\kvtcore6.dll path\to\fake_viewer.dll [--show-about|--show-missing-help]
 #include <windows.h>
 
 #include <atomic>
@@ -254,6 +254,11 @@ int main(int argc, char** argv) {
   if (!CHECK(showHelp && showAbout && lastError && setLastError)) return check::Summary();
   WriteFile(at.work + "\\kvtcore6.chm");
 
+  if (mode == "--show-about" || mode == "--show-missing-help") {
+    // For screenshots: the box stays until something else closes it.
+    DeleteFileA((at.work + "\\kvtcore6.chm").c_str());
+    return mode == "--show-about" ? showAbout(0) == 1.0 ? 0 : 1 : showHelp(0) == 1.0 ? 0 : 1;
+  }
   if (mode == "--fallback") {
     // The registry names no loadable viewer: hhctrl.ocx by its plain name.
     HelpOpens("kvtcore6.chm", 0, GetActiveWindow(), "hhctrl.ocx");
