@@ -29,7 +29,9 @@
 
 #if defined(_WIN32)
 #  if defined(KVT_BUILDING)
-#    define KVT_API __declspec(dllexport)
+     /* The module-definition file, generated from the catalogue, exports
+        every row by its undecorated name and its ordinal. */
+#    define KVT_API
 #  else
 #    define KVT_API __declspec(dllimport)
 #  endif
@@ -411,6 +413,8 @@
   X(276, kvtPT5HS, P2, None, WaterCalculator::PT5HS, "h [J/kg], s [J/(kg K)]: p [Pa], T [K]") \
   X(296, kvtPT5RH, P2, None, WaterCalculator::PT5RH, "density [kg/m3], h [J/kg]: p [Pa], T [K]") \
   /* ---- Help and about ---- */ \
+  X(260, kvtSHOWKVTHELP, H1, None, Engine::SHOWKVTHELP, "owner window handle (0: the active window): 1") \
+  X(261, kvtSHOWABOUT, H1, None, Engine::SHOWABOUT, "owner window handle (0: the active window): 1") \
   /* ---- Gases ---- */ \
   X(306, kvtgSETCALCDISSMODE, I1, None, GasEngine::SETCALCDISSMODE, "dissociation mode: reserved, always error 8") \
   X(307, kvtgGETCALCDISSMODE, I0, None, GasEngine::GETCALCDISSMODE, ": dissociation mode, always 0 (none computed)") \

@@ -2,6 +2,7 @@
 //
 //   kvtcalc H1PT 3e6 300        enthalpy of water at 3 MPa and 300 K
 //   kvtcalc --list              every export with its arguments and units
+//   kvtcalc --exact H1PT 3e6 300   all 17 digits, to compare two builds
 //
 // The export is named with or without its "kvt" prefix, in any case. The
 // lookup, the argument count and the output names all come from the
@@ -178,13 +179,20 @@ const Row* Find(const std::string& wanted) {
 int Usage() {
   std::fprintf(stderr,
                "usage: kvtcalc NAME [ARG ...]   call an export (name with or without kvt)\n"
-               "       kvtcalc --list           list every export with its arguments\n");
+               "       kvtcalc --list           list every export with its arguments\n"
+               "       kvtcalc --exact NAME ... print numbers with all 17 digits\n");
   return 2;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+  const char* format = "%#.10g";
+  if (argc >= 2 && std::strcmp(argv[1], "--exact") == 0) {
+    format = "%.17g";
+    --argc;
+    ++argv;
+  }
   if (argc < 2) return Usage();
   const std::string first = argv[1];
   if (first == "--list" || first == "-l") {
@@ -222,10 +230,14 @@ int main(int argc, char** argv) {
   if (out.values.empty()) {
     std::printf("%s\n", text.c_str());
   } else if (out.values.size() == 1) {
-    std::printf("%#.10g\n", out.values[0]);
+    std::printf(format, out.values[0]);
+    std::printf("\n");
   } else {
-    for (size_t i = 0; i < out.values.size(); ++i)
-      std::printf("%-10s %#.10g\n", out.labels[i].c_str(), out.values[i]);
+    for (size_t i = 0; i < out.values.size(); ++i) {
+      std::printf("%-10s ", out.labels[i].c_str());
+      std::printf(format, out.values[i]);
+      std::printf("\n");
+    }
   }
   return 0;
 }

@@ -27,13 +27,13 @@ int32_t Engine::SETLASTERROR(int32_t code) {
 
 const char* Engine::GETLASTERRORDESCRIPTION() {
   errorText[0] = 0;
-  CopyErrorText(lastError, errorText, sizeof errorText);
+  LoadErrorText(lastError, errorText, sizeof errorText);
   return errorText;
 }
 
 const char16_t* Engine::GETLASTERRORDESCRIPTIONW() {
   errorTextW[0] = 0;
-  CopyErrorText(lastError, errorTextW, sizeof errorTextW / sizeof errorTextW[0]);
+  LoadErrorText(lastError, errorTextW, sizeof errorTextW / sizeof errorTextW[0]);
   return errorTextW;
 }
 

@@ -56,6 +56,11 @@ class Engine : public EngineBase {
   int32_t GETLASTERROR() { return lastError; }
   const char* GETLASTERRORDESCRIPTION();
   const char16_t* GETLASTERRORDESCRIPTIONW();
+
+  // Help and about (shell/help.cpp): the only calls with a user interface.
+  // Both return 1; on systems other than Windows they do nothing else.
+  double SHOWKVTHELP(int32_t window);
+  double SHOWABOUT(int32_t window);
 };
 
 // The engine of the loaded library, constructed at load after the constant
@@ -63,7 +68,8 @@ class Engine : public EngineBase {
 extern Engine theEngine;
 inline Engine& engine() { return theEngine; }
 
-// Stored by the library's entry point on Windows; unused elsewhere.
+// The module handle, stored by the library's entry point on Windows
+// (shell/dll_main.cpp); the string table is read through it. Null elsewhere.
 extern void* instanceHandle;
 
 }  // namespace kvt

@@ -4,6 +4,8 @@ namespace kvt {
 
 namespace {
 
+// The resource script's string table is generated from this array at build
+// time (cmake/error_strings.cmake), so the texts exist once.
 // Codes 5, 6, 7 and 10 are reserved: the register accepts them, nothing
 // raises them, and they have no text.
 const char16_t* const kTexts[12] = {

@@ -14,4 +14,11 @@ const char16_t* ErrorTextW(int32_t code);
 void CopyErrorText(int32_t code, char* buffer, size_t size);
 void CopyErrorText(int32_t code, char16_t* buffer, size_t size);
 
+// The description that the last-error functions return. On Windows it comes
+// from the module's string table (LoadStringA gives the host's 8-bit code
+// page); elsewhere from the table above, the 8-bit form in UTF-8. A code
+// without a text leaves the buffer empty.
+void LoadErrorText(int32_t code, char* buffer, size_t size);
+void LoadErrorText(int32_t code, char16_t* buffer, size_t size);
+
 }  // namespace kvt

@@ -1,0 +1,58 @@
+# Reads a DLL's tables with the mingw objdump and checks that the export table
+# holds exactly the catalogue's rows, undecorated, each at its ordinal, and
+# that the DLL imports nothing but system DLLs (the runtime is linked in).
+#   cmake -DOBJDUMP=... -DDLL=kvtcore6.dll -DHEADER=kvtcore.h -P check_pe.cmake
+file(READ "${HEADER}" header)
+string(REGEX MATCHALL "X\\([0-9]+, kvt[A-Za-z0-9]+," rows "${header}")
+set(expected "")
+foreach(row IN LISTS rows)
+  string(REGEX REPLACE "X\\(([0-9]+), (kvt[A-Za-z0-9]+)," "\\2@\\1" entry "${row}")
+  list(APPEND expected "${entry}")
+endforeach()
+list(SORT expected)
+
+execute_process(COMMAND "${OBJDUMP}" -p "${DLL}" OUTPUT_VARIABLE dump RESULT_VARIABLE rc)
+if(NOT rc EQUAL 0)
+  message(FATAL_ERROR "${OBJDUMP} failed on ${DLL}")
+endif()
+
+# "Ordinal Base 104" and "\t[   3] kvtH1PT": the ordinal is base + index.
+string(REGEX MATCH "Ordinal Base ([0-9]+)" _ "${dump}")
+set(base ${CMAKE_MATCH_1})
+string(REGEX MATCH "\\[Ordinal/Name Pointer\\] Table\n(.*)" _ "${dump}")
+string(REGEX MATCHALL "\t\\[ *[0-9]+\\] [^\n]+" named "${CMAKE_MATCH_1}")
+set(actual "")
+foreach(line IN LISTS named)
+  string(REGEX REPLACE "\t\\[ *([0-9]+)\\] ([^\n]+)" "\\1;\\2" pair "${line}")
+  list(GET pair 0 index)
+  list(GET pair 1 name)
+  math(EXPR ordinal "${base} + ${index}")
+  list(APPEND actual "${name}@${ordinal}")
+endforeach()
+list(SORT actual)
+if(NOT expected STREQUAL actual)
+  set(missing ${expected})
+  list(REMOVE_ITEM missing ${actual})
+  set(extra ${actual})
+  list(REMOVE_ITEM extra ${expected})
+  message(FATAL_ERROR "export table differs from the catalogue\nmissing: ${missing}\nextra: ${extra}")
+endif()
+
+# Every exported address has a name: no entry reachable by ordinal alone.
+string(REGEX MATCHALL "\\+base\\[ *[0-9]+\\] [0-9a-f]+ Export RVA" addresses "${dump}")
+list(LENGTH addresses n_addresses)
+list(LENGTH actual n)
+if(NOT n_addresses EQUAL n)
+  message(FATAL_ERROR "${n_addresses} exported addresses for ${n} names")
+endif()
+
+string(REGEX MATCHALL "DLL Name: [^\n]+" imports "${dump}")
+set(allowed KERNEL32.dll USER32.dll ADVAPI32.dll SHLWAPI.dll msvcrt.dll)
+foreach(import IN LISTS imports)
+  string(REPLACE "DLL Name: " "" import "${import}")
+  list(FIND allowed "${import}" known)
+  if(known EQUAL -1)
+    message(FATAL_ERROR "${DLL} imports ${import}, which is not a system DLL")
+  endif()
+endforeach()
+message(STATUS "${n} exports by name and ordinal, imports: ${imports}")
