@@ -1,0 +1,22 @@
+# The catalogue in the public header lists exactly the exports of the
+# reference list, each with its ordinal: no name or ordinal differs, none is
+# missing, none is extra.
+file(READ "${HEADER}" header)
+string(REGEX MATCHALL "X\\(([0-9]+), (kvt[A-Za-z0-9]+)," rows "${header}")
+set(catalogue "")
+foreach(row IN LISTS rows)
+  string(REGEX REPLACE "X\\(([0-9]+), (kvt[A-Za-z0-9]+)," "\\1 \\2" entry "${row}")
+  list(APPEND catalogue "${entry}")
+endforeach()
+file(STRINGS "${LIST}" reference REGEX "^[0-9]+ kvt")
+list(SORT catalogue)
+list(SORT reference)
+if(NOT catalogue STREQUAL reference)
+  set(extra ${catalogue})
+  list(REMOVE_ITEM extra ${reference})
+  set(missing ${reference})
+  list(REMOVE_ITEM missing ${catalogue})
+  message(FATAL_ERROR "catalogue differs from the list\nmissing or wrong: ${missing}\nnot in the list: ${extra}")
+endif()
+list(LENGTH catalogue n)
+message(STATUS "${n} catalogue rows match the list")
