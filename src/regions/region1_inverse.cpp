@@ -7,6 +7,7 @@
 #include "frame/engine.h"
 #include "regions/region1_inverse_tables.h"
 #include "regions/region1_sums.h"
+#include "regions/gibbs_newton.h"
 
 namespace kvt {
 
@@ -80,63 +81,19 @@ double WaterCalculator::T1PS(double p, double s) {
 // (ds/dp)T = -(dv/dT)p and (ds/dT)p = cp / T. The point moves before the stop
 // test, which looks at the residuals of the point before the step.
 double WaterCalculator::NEWTON1HS(double h, double s, double& p, double& T) {
-  const double tolh = RelativeBand(h, engine->tolerance);
-  const double tols = RelativeBand(s, engine->tolerance);
-  const int32_t limit = engine->maxIteration;
-  int32_t count = 0;
-  for (;;) {
-    const double tau = TSTAR1 / T;
-    ++count;
-    const Gibbs g = Region1Sums<2, 2>(p, tau);
-    const double c = RGAS / P1STAR;
-    const double vT = (g.gp - g.gpt * tau) * c;
-    const double hp = c * T * g.gp - vT * T;
-    const double cp = -g.gtt * tau * tau * RGAS;
-    const double sT = cp / T;
-    const double det = sT * hp - cp * (-vT);
-    const double Fh = RGAS * 1386.0 * g.gt - h;
-    const double Fs = (g.gt * tau - g.g) * RGAS - s;
-    p += (Fs * cp - Fh * sT) / det;
-    T += (Fh * (-vT) - Fs * hp) / det;
-    if (count > limit) raise(3);
-    if (BelowBand(Fh, tolh) && BelowBand(Fs, tols)) {
-      if (count < limit) return 1.0;
-      raise(3);
-    }
-  }
+  const auto gibbs = [this](double pp, double tau) { return Region1Sums<2, 2>(pp, tau); };
+  NewtonHS(gibbs, P1STAR, TSTAR1, h, s, RelativeBand(h, engine->tolerance),
+           RelativeBand(s, engine->tolerance), engine->maxIteration, p, T);
+  return 1.0;
 }
 
 // Newton on v and h. A step into negative p or T restarts that variable from
 // a plain liquid value; the pass still counts.
 double WaterCalculator::NEWTON1RH(double density, double h, double& p, double& T) {
-  const double tolr = RelativeBand(density, engine->tolerance);
-  const double tolh = RelativeBand(h, engine->tolerance);
-  const int32_t limit = engine->maxIteration;
-  int32_t count = 0;
-  for (;;) {
-    const double tau = TSTAR1 / T;
-    ++count;
-    const Gibbs g = Region1Sums<2, 2>(p, tau);
-    const double c = RGAS / P1STAR;
-    const double v = c * T * g.gp;
-    const double vp = (1.0 / P1STAR) * T * c * g.gpp;
-    const double vT = (g.gp - g.gpt * tau) * c;
-    const double hp = v - vT * T;
-    const double cp = -g.gtt * tau * tau * RGAS;
-    const double det = hp * vT - cp * vp;
-    const double Fh = RGAS * 1386.0 * g.gt - h;
-    const double Fv = v - 1.0 / density;
-    const double Fr = 1.0 / v - density;
-    p += (Fv * cp - Fh * vT) / det;
-    T += (Fh * vp - Fv * hp) / det;
-    if (p < 0) p = 1000.0;
-    if (T < 0) T = 300.0;
-    if (count > limit) raise(3);
-    if (BelowBand(Fh, tolh) && BelowBand(Fr, tolr)) {
-      if (count < limit) return 1.0;
-      raise(3);
-    }
-  }
+  const auto gibbs = [this](double pp, double tau) { return Region1Sums<2, 2>(pp, tau); };
+  NewtonRH(gibbs, P1STAR, TSTAR1, density, h, RelativeBand(density, engine->tolerance),
+           RelativeBand(h, engine->tolerance), 300.0, engine->maxIteration, p, T);
+  return 1.0;
 }
 
 double WaterCalculator::P1HS(double h, double s) {

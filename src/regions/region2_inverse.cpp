@@ -7,6 +7,7 @@
 #include "frame/engine.h"
 #include "regions/region2_inverse_tables.h"
 #include "regions/region2_sums.h"
+#include "regions/gibbs_newton.h"
 
 namespace kvt {
 
@@ -179,61 +180,18 @@ Gibbs WaterCalculator::Region2Full(double p, double tau) {
 // Newton on the residuals of h and s, as in region 1. The bands are relative
 // without a floor, so a negative h or s leaves no way to stop: error 3.
 double WaterCalculator::NEWTON2HS(double h, double s, double& p, double& T) {
-  const double tolh = h * engine->tolerance, tols = s * engine->tolerance;
-  const int32_t limit = engine->maxIteration;
-  int32_t count = 0;
-  for (;;) {
-    ++count;
-    const double tau = TSTAR2 / T;
-    const Gibbs g = Region2Full(p, tau);
-    const double c = RGAS / 1e6;
-    const double vT = (g.gp - g.gpt * tau) * c;
-    const double hp = c * T * g.gp - vT * T;
-    const double cp = -g.gtt * tau * tau * RGAS;
-    const double sT = cp / T;
-    const double det = sT * hp - cp * (-vT);
-    const double Fh = RGAS * 540.0 * g.gt - h;
-    const double Fs = (g.gt * tau - g.g) * RGAS - s;
-    p += (Fs * cp - Fh * sT) / det;
-    T += (Fh * (-vT) - Fs * hp) / det;
-    if (count > limit) raise(3);
-    if (BelowBand(Fh, tolh) && BelowBand(Fs, tols)) {
-      if (count < limit) return 1.0;
-      raise(3);
-    }
-  }
+  const auto gibbs = [this](double pp, double tau) { return Region2Full(pp, tau); };
+  NewtonHS(gibbs, P2STAR, TSTAR2, h, s, h * engine->tolerance, s * engine->tolerance,
+           engine->maxIteration, p, T);
+  return 1.0;
 }
 
 // Newton on v and h; a step into negative p or T restarts that variable.
 double WaterCalculator::NEWTON2RH(double density, double h, double& p, double& T) {
-  const double tolr = RelativeBand(density, engine->tolerance);
-  const double tolh = RelativeBand(h, engine->tolerance);
-  const int32_t limit = engine->maxIteration;
-  int32_t count = 0;
-  for (;;) {
-    ++count;
-    const double tau = TSTAR2 / T;
-    const Gibbs g = Region2Full(p, tau);
-    const double c = RGAS / 1e6;
-    const double v = c * T * g.gp;
-    const double vp = (1.0 / 1e6) * T * c * g.gpp;
-    const double vT = (g.gp - g.gpt * tau) * c;
-    const double hp = v - vT * T;
-    const double cp = -g.gtt * tau * tau * RGAS;
-    const double det = hp * vT - cp * vp;
-    const double Fh = RGAS * 540.0 * g.gt - h;
-    const double Fv = v - 1.0 / density;
-    const double Fr = 1.0 / v - density;
-    p += (Fv * cp - Fh * vT) / det;
-    T += (Fh * vp - Fv * hp) / det;
-    if (p < 0) p = 1000.0;
-    if (T < 0) T = 400.0;
-    if (count > limit) raise(3);
-    if (BelowBand(Fh, tolh) && BelowBand(Fr, tolr)) {
-      if (count < limit) return 1.0;
-      raise(3);
-    }
-  }
+  const auto gibbs = [this](double pp, double tau) { return Region2Full(pp, tau); };
+  NewtonRH(gibbs, P2STAR, TSTAR2, density, h, RelativeBand(density, engine->tolerance),
+           RelativeBand(h, engine->tolerance), 400.0, engine->maxIteration, p, T);
+  return 1.0;
 }
 
 double WaterCalculator::P2HS(double h, double s) {

@@ -9,6 +9,7 @@
 #include "regions/constants.h"
 #include "regions/region5_sums.h"
 #include "regions/water_calculator.h"
+#include "regions/gibbs_newton.h"
 
 namespace kvt {
 
@@ -25,11 +26,6 @@ double SnapHigh(const Engine& e, double T, double tol) {
   if (e.checkRangeMode != 0 && std::fabs(THIGH - T) <= tol && T > THIGH) return THIGH;
   return T;
 }
-
-// The stop tests: written so that a NaN counts as inside the band. The solve
-// then ends at once, without error 3, and the NaN it returns is reported by
-// the finiteness test of the call.
-bool Within(double x, double band) { return !(std::fabs(x) >= band); }
 
 }  // namespace
 
@@ -48,7 +44,7 @@ double WaterCalculator::T5PH(double p, double h) {
     const double step = (g.gt * RGAS * 1000.0 - h) / (g.gtt * RGAS * tau * tau);
     T += step;
     if (count > limit) break;
-    if (Within(step, tol)) break;
+    if (BelowBand(step, tol)) break;
   }
   if (count >= limit) raise(3);
   return SnapHigh(*engine, T, tol);
@@ -71,7 +67,7 @@ double WaterCalculator::T5PS(double p, double s) {
         ((g.gt * tau - g.g) * RGAS - s) * T / (g.gtt * RGAS * tau * tau);
     T += step;
     if (count > limit) break;
-    if (Within(step, tol)) break;
+    if (BelowBand(step, tol)) break;
   }
   if (count >= limit) raise(3);
   return SnapHigh(*engine, T, tol);
@@ -108,31 +104,13 @@ double WaterCalculator::T5HS(double h, double s) {
 // [[dh/dp, cp], [-dv/dT, cp / T]]. The step is taken before the stop test,
 // which therefore judges the residuals of the point before the last step.
 void WaterCalculator::NEWTON5HS(double h, double s, double& p, double& T) {
-  const double tolh = h * engine->tolerance, tols = s * engine->tolerance;
-  const int32_t limit = engine->maxIteration;
-  int32_t count = 0;
-  for (;;) {
-    const double pi = p / P5STAR;
-    ++count;
-    const double tau = TSTAR5 / T;
+  const auto gibbs = [this](double pp, double tau) {
+    const double pi = pp / P5STAR;
     Region5Pi<1>(pi);
-    const Gibbs g = Region5Pass<1, 2>(tau, {std::log(pi), 1.0 / pi, 0, 0, 0, 0}, 7);
-    const double c = RGAS / P5STAR;
-    const double vT = (g.gp - g.gpt * tau) * c;
-    const double hp = g.gp * c * T - vT * T;
-    const double cp = -g.gtt * tau * tau * RGAS;
-    const double sT = cp / T;
-    const double det = sT * hp - cp * (-vT);
-    const double Fh = RGAS * 1000.0 * g.gt - h;
-    const double Fs = (g.gt * tau - g.g) * RGAS - s;
-    p += (Fs * cp - Fh * sT) / det;
-    T += (Fh * (-vT) - Fs * hp) / det;
-    if (count > limit) raise(3);
-    if (Within(Fh, tolh) && Within(Fs, tols)) {
-      if (count < limit) return;
-      raise(3);
-    }
-  }
+    return Region5Pass<1, 2>(tau, {std::log(pi), 1.0 / pi, 0, 0, 0, 0}, 7);
+  };
+  NewtonHS(gibbs, P5STAR, TSTAR5, h, s, h * engine->tolerance, s * engine->tolerance,
+           engine->maxIteration, p, T);
 }
 
 // Newton in (p, T) on the residuals of v and h. Small values get an
@@ -142,35 +120,12 @@ void WaterCalculator::NEWTON5RH(double rho, double h, double& p, double& T) {
   const double tolerance = engine->tolerance;
   const double tolr = std::fabs(rho) <= 1.0 ? 10000.0 * tolerance : rho * tolerance;
   const double tolh = std::fabs(h) <= 1.0 ? 10000.0 * tolerance : h * tolerance;
-  const int32_t limit = engine->maxIteration;
-  int32_t count = 0;
-  for (;;) {
-    const double pi = p / P5STAR;
-    ++count;
-    const double tau = TSTAR5 / T;
+  const auto gibbs = [this](double pp, double tau) {
+    const double pi = pp / P5STAR;
     Region5Pi<2>(pi);
-    const Gibbs g = Region5Pass<2, 2>(tau, {0, 1.0 / pi, -1.0 / (pi * pi), 0, 0, 0}, 7);
-    const double c = RGAS / P5STAR;
-    const double v = c * T * g.gp;
-    const double vp = (1.0 / P5STAR) * T * c * g.gpp;
-    const double vT = (g.gp - g.gpt * tau) * c;
-    const double hp = v - vT * T;
-    const double cp = -g.gtt * tau * tau * RGAS;
-    const double det = hp * vT - cp * vp;
-    const double Fh = RGAS * 1000.0 * g.gt - h;
-    const double Fv = v - 1.0 / rho;
-    const double Fr = 1.0 / v - rho;
-    p += (Fv * cp - Fh * vT) / det;
-    T += (Fh * vp - Fv * hp) / det;
-    // A step past zero restarts from a low pressure or a mid-region T.
-    if (p < 0) p = 1000.0;
-    if (T < 0) T = 1300.0;
-    if (count > limit) raise(3);
-    if (Within(Fh, tolh) && Within(Fr, tolr)) {
-      if (count < limit) return;
-      raise(3);
-    }
-  }
+    return Region5Pass<2, 2>(tau, {0, 1.0 / pi, -1.0 / (pi * pi), 0, 0, 0}, 7);
+  };
+  NewtonRH(gibbs, P5STAR, TSTAR5, rho, h, tolr, tolh, 1300.0, engine->maxIteration, p, T);
 }
 
 // From the middle of region 5; toleranceMode plays no part.
