@@ -115,6 +115,18 @@ TEST_F(Spec, RefusedTextsAndTheirCodes) {
   EXPECT_EQ(gas.specCache.Find("N2:1;{}"), nullptr);
 }
 
+// Deep nesting is read up to a depth no real mixture needs, then refused as
+// a syntax error instead of running the reader out of stack.
+TEST_F(Spec, NestingDepthIsBounded) {
+  const auto nested = [](int depth) {
+    return std::string(depth, '{') + "N2:1;O2:1" + std::string(depth, '}');
+  };
+  EXPECT_EQ(CodeOf([&] { gas.GetBySpec(nested(150).c_str()); }), 0);
+  EXPECT_EQ(CodeOf([&] { gas.GetBySpec(nested(100000).c_str()); }), 11);
+  // The reader is usable afterwards at any depth below the bound.
+  EXPECT_EQ(CodeOf([&] { gas.GetBySpec(nested(3).c_str()); }), 0);
+}
+
 TEST_F(Spec, CanonicalTextByteForByte) {
   EXPECT_STREQ(kvtgGSID(0), "N2");
   EXPECT_STREQ(kvtgGSID(6), "Air");

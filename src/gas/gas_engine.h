@@ -119,6 +119,7 @@ class GasEngine {
   void ReadItem(GasRecord& mixture, const std::string& piece);
 
   int32_t lastCallerId;
+  int32_t specNesting = 0;  // braces being read, see SpecLookup
 };
 
 }  // namespace kvt

@@ -179,11 +179,21 @@ void GasSpecCache::Purge(const GasRecord& keep) {
 
 // ---- Reader ----
 
+// Braces nest, each level a recursion of the reader; a text nested deeper
+// than any real mixture is refused as a syntax error before it can exhaust
+// the host's stack.
+constexpr int32_t kMaxSpecNesting = 200;
+
 GasRecord* GasEngine::SpecLookup(const char* text) {
   const std::string spec = Trim(text ? text : "");
   if (GasRecord* cached = specCache.Find(spec)) return cached;
   auto named = nameMap.find(spec);
   if (named != nameMap.end()) return named->second;  // a plain name is no cache entry
+  if (specNesting >= kMaxSpecNesting) raise(11);
+  struct Level {
+    int32_t& depth;
+    ~Level() { --depth; }
+  } level{++specNesting};
   GasRecord* record = new GasRecord(engine, spec.c_str());
   try {
     long long pos = 0;
