@@ -34,7 +34,7 @@ struct Output {
 struct Row {
   int ordinal;
   const char* name;
-  const char* doc;
+  std::string doc;
   int inputs;  // number of arguments the caller types
   // Calls the export with the typed arguments; returns false on a parse error.
   bool (*call)(const std::vector<std::string>& args, std::string& text, Output& out,
@@ -107,23 +107,51 @@ std::string Utf8(const char16_t* s) {
   return r;
 }
 
-// The output labels of a row: the names after the ':' of its description
-// ("h [J/kg], s [J/(kg K)]: p [Pa], T [K]" gives "p [Pa]" and "T [K]").
-std::vector<std::string> Labels(const char* doc, size_t n) {
-  std::vector<std::string> labels;
-  if (n == 14) return std::vector<std::string>(kManyNames, kManyNames + 14);
-  const char* colon = std::strrchr(doc, ':');
-  std::string rest = colon ? colon + 1 : "";
-  size_t start = 0;
-  while (labels.size() < n) {
-    size_t comma = rest.find(", ", start);
-    std::string part = rest.substr(start, comma == std::string::npos ? std::string::npos
-                                                                     : comma - start);
-    while (!part.empty() && part[0] == ' ') part.erase(0, 1);
-    labels.push_back(part.empty() ? "out" + std::to_string(labels.size() + 1) : part);
-    if (comma == std::string::npos) start = rest.size();
-    else start = comma + 2;
+// A row's description from its catalogue entry: the stringised argument list
+// ("(p, \"Pa\", T, \"K\")") and the result, as "p [Pa], T [K]: enthalpy [J/kg]".
+// The argument names and units, in order.
+std::vector<std::string> ArgumentList(const char* args) {
+  std::vector<std::string> items;
+  std::string item, all(args);
+  all = all.substr(1, all.size() - 2);  // the list's own parentheses
+  for (const char* c = all.c_str(); *c; ++c) {
+    if (*c == '"') continue;
+    if (*c == ',') {
+      items.push_back(item);
+      item.clear();
+    } else if (*c != ' ' || !item.empty()) {
+      item += *c;
+    }
   }
+  if (!item.empty() || !items.empty()) items.push_back(item);
+  return items;
+}
+
+std::string Labelled(const std::vector<std::string>& items, size_t first, size_t last) {
+  std::string r;
+  for (size_t i = first; i + 1 < last && i + 1 < items.size(); i += 2) {
+    if (!r.empty()) r += ", ";
+    r += items[i];
+    if (!items[i + 1].empty()) r += " [" + items[i + 1] + "]";
+  }
+  return r;
+}
+
+std::string Describe(const char* args, const char* result, int inputs) {
+  const std::vector<std::string> items = ArgumentList(args);
+  const size_t in = 2 * static_cast<size_t>(inputs);
+  std::string r = Labelled(items, 0, in) + ": ";
+  if (items.size() > in) return r + Labelled(items, in, items.size());  // the pair's outputs
+  return r + result;
+}
+
+// The output labels of a row: its two named outputs, or the fourteen.
+std::vector<std::string> Labels(const char* args, size_t n) {
+  if (n == 14) return std::vector<std::string>(kManyNames, kManyNames + 14);
+  const std::vector<std::string> items = ArgumentList(args);
+  std::vector<std::string> labels;
+  for (size_t i = items.size() - 2 * n; i + 1 < items.size(); i += 2)
+    labels.push_back(items[i] + " [" + items[i + 1] + "]");
   return labels;
 }
 
@@ -159,13 +187,13 @@ template <class R, class... P> constexpr int InputsOf(R (KVT_CALL*)(P...)) {
   return CountInputs<P...>();
 }
 
-#define KVT_ROW(ord, name, shape, rule, core, doc)                                         \
-  {ord, #name, doc, InputsOf(&name),                                                       \
+#define KVT_ROW(ord, name, shape, rule, core, args, result)                                \
+  {ord, #name, Describe(#args, result, InputsOf(&name)), InputsOf(&name),                  \
    [](const std::vector<std::string>& a, std::string& t, Output& o, bool& f) {             \
-     return CallWith(&name, doc, a, t, o, f);                                              \
+     return CallWith(&name, #args, a, t, o, f);                                            \
    }},
 
-const Row kRows[] = {KVT_CATALOGUE(KVT_ROW)};
+const std::vector<Row> kRows = {KVT_CATALOGUE(KVT_ROW)};
 
 const Row* Find(const std::string& wanted) {
   const std::string w = Upper(wanted);
@@ -196,7 +224,7 @@ int main(int argc, char** argv) {
   if (argc < 2) return Usage();
   const std::string first = argv[1];
   if (first == "--list" || first == "-l") {
-    for (const Row& row : kRows) std::printf("%-34s %3d  %s\n", row.name, row.ordinal, row.doc);
+    for (const Row& row : kRows) std::printf("%-34s %3d  %s\n", row.name, row.ordinal, row.doc.c_str());
     return 0;
   }
   if (first == "--help" || first == "-h") {
@@ -211,14 +239,14 @@ int main(int argc, char** argv) {
   std::vector<std::string> args(argv + 2, argv + argc);
   if (static_cast<int>(args.size()) != row->inputs) {
     std::fprintf(stderr, "kvtcalc: %s takes %d argument(s): %s\n", row->name, row->inputs,
-                 row->doc);
+                 row->doc.c_str());
     return 2;
   }
   std::string text;
   Output out;
   bool failed = false;
   if (!row->call(args, text, out, failed)) {
-    std::fprintf(stderr, "kvtcalc: arguments of %s must be numbers: %s\n", row->name, row->doc);
+    std::fprintf(stderr, "kvtcalc: arguments of %s must be numbers: %s\n", row->name, row->doc.c_str());
     return 2;
   }
   if (failed) {

@@ -92,7 +92,8 @@ using namespace kvt;
     return Guarded<double, R, &C>(a, b, c, d, e, f, g, h, i, j, k, l);                       \
   }
 
-#define KVT_DEFINE(ord, name, shape, rule, core, doc) KVT_DEF_##shape(name, rules::rule, core)
+#define KVT_DEFINE(ord, name, shape, rule, core, args, result) \
+  KVT_DEF_##shape(name, rules::rule, core)
 
 extern "C" {
 KVT_CATALOGUE(KVT_DEFINE)

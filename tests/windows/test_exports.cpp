@@ -22,7 +22,7 @@ struct Row {
   const char* name;
 };
 
-#define KVT_ROW(ord, name, shape, rule, core, doc) {ord, #name},
+#define KVT_ROW(ord, name, shape, rule, core, args, result) {ord, #name},
 const Row kRows[] = {KVT_CATALOGUE(KVT_ROW)};
 
 // The function of a row, by name, with the row's own C type.
