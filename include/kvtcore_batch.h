@@ -1,0 +1,136 @@
+/*
+ * kvtcore_batch: engines as values, and evaluation over arrays.
+ *
+ * The exports of kvtcore.h share one global engine: its settings, last error
+ * and gas registry belong to the whole process, and calls must take turns.
+ * This interface works on engines the caller creates. Each engine has its own
+ * settings, last error, scratch tables and gases (the fifteen built-in ones,
+ * plus those added to it), so separate engines on separate threads need no
+ * lock. One engine must not be used by two threads at once; kvtEval with
+ * threads above 1 is safe, since each worker runs on an engine of its own
+ * that carries the caller's settings and gases.
+ *
+ * Every point of kvtEval gives, bit for bit, what the export of the same name
+ * gives for the same arguments under the same settings.
+ *
+ *   kvtEngine* e = kvtEngineNew();
+ *   const double* args[2] = {p, T};               // n pressures, n temperatures
+ *   int64_t failed = kvtEval(e, "HPT", n, args, NULL, h, codes, 0);
+ *   kvtEngineFree(e);
+ */
+#ifndef KVTCORE_BATCH_H
+#define KVTCORE_BATCH_H
+
+#include <stddef.h>
+#include <stdint.h>
+
+#if defined(_WIN32)
+#  if defined(KVT_BUILDING)
+#    define KVT_BATCH_API __declspec(dllexport)
+#  else
+#    define KVT_BATCH_API __declspec(dllimport)
+#  endif
+#elif defined(KVT_BUILDING)
+#  define KVT_BATCH_API __attribute__((visibility("default")))
+#else
+#  define KVT_BATCH_API
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---- Engines ---- */
+
+typedef struct kvtEngine kvtEngine;
+
+/* A new engine with the default settings and the built-in gases; null if
+   memory runs out. */
+KVT_BATCH_API kvtEngine* kvtEngineNew(void);
+/* A new engine with the settings and gases of e (null if e is null or memory
+   runs out). */
+KVT_BATCH_API kvtEngine* kvtEngineClone(const kvtEngine* e);
+/* Frees an engine; null is accepted. */
+KVT_BATCH_API void kvtEngineFree(kvtEngine* e);
+
+/* Settings by name: "tolerance", "toleranceMode", "checkRangeMode",
+   "maxIteration". Set returns 0, or 1 for an unknown name or a null engine;
+   the value is stored as the export's setter stores it. Get returns the
+   value, or NaN for an unknown name or a null engine. */
+KVT_BATCH_API int32_t kvtEngineSet(kvtEngine* e, const char* setting, double value);
+KVT_BATCH_API double kvtEngineGet(const kvtEngine* e, const char* setting);
+
+/* The code of the engine's last failure: 0 after a successful call. */
+KVT_BATCH_API int32_t kvtEngineLastError(const kvtEngine* e);
+
+/* Gases of one engine: registers a gas-spec text (as kvtgNEWIDGS does) and
+   returns its id in this engine, or -1 with the code in kvtEngineLastError;
+   deletes a gas the caller added (as kvtgDELETEGASID). */
+KVT_BATCH_API int32_t kvtEngineNewGas(kvtEngine* e, const char* gasSpec);
+KVT_BATCH_API int32_t kvtEngineDeleteGas(kvtEngine* e, int32_t id);
+
+/* ---- The catalogue, as data ---- */
+
+typedef struct kvtFunctionInfo {
+  int32_t ordinal;            /* the export's ordinal */
+  const char* name;           /* "kvtHPT" */
+  const char* shape;          /* call shape, see kvtcore.h: "D2", "GS1", "P2", ... */
+  const char* rule;           /* range rule: "PT", "None", ... */
+  const char* result;         /* what it returns, with the unit: "enthalpy [J/kg]" */
+  int32_t gas;                /* 0 water, 1 gas by id, 2 gas by text */
+  int32_t evaluable;          /* 1: numbers in, one number out, no side effect:
+                                 kvtEval takes it (and kvtEvalRow) */
+  int32_t inputs;             /* arguments the caller gives, the gas included */
+  int32_t outputs;            /* numbers out: 1, 2 (pair) or 14 */
+  const char* const* inputNames;   /* "p", "T", ... (inputs of them) */
+  const char* const* inputUnits;   /* "Pa", "K", "-" for a pure number, "" */
+  const char* const* outputNames;  /* the pair's or the 14 outputs' names;
+                                      "value" for a one-number row */
+  const char* const* outputUnits;  /* their units; the result's for one */
+} kvtFunctionInfo;
+
+/* The number of catalogue rows, and row i (0-based; null outside). */
+KVT_BATCH_API int32_t kvtFunctionCount(void);
+KVT_BATCH_API const kvtFunctionInfo* kvtFunctionAt(int32_t i);
+/* A row by name, with or without the kvt prefix, in any case; null if none. */
+KVT_BATCH_API const kvtFunctionInfo* kvtFunctionFind(const char* name);
+
+/* The meaning of an error code in English ("arguments outside the range of
+   the function"); "unknown error" for a code the library never gives. */
+KVT_BATCH_API const char* kvtErrorMessage(int32_t code);
+
+/* ---- Evaluation over arrays ---- */
+
+/* Evaluates the catalogue function `name` (with or without the kvt prefix,
+   any case) at n points. args[i] points at the values of argument i and
+   strides[i] is its step in elements (0 broadcasts one value to all points;
+   strides may be null for all 1). A gas id is given as a double holding an
+   integer. out[k] gets the result of point k, NaN where it failed; codes (may
+   be null) gets each point's error code, 0 on success. threads: 1 runs on the
+   calling thread, 0 on every core, m on m threads. Returns the number of
+   failed points; -1 with nothing written for an unknown name, a function that
+   is not evaluable over arrays, or a null engine, args or out. */
+KVT_BATCH_API int64_t kvtEval(kvtEngine* e, const char* name, size_t n,
+                              const double* const* args, const size_t* strides,
+                              double* out, int32_t* codes, int32_t threads);
+
+/* The same for the gas functions by text: `gas` is the gas-spec text of
+   every point, args are the function's remaining arguments. */
+KVT_BATCH_API int64_t kvtEvalGas(kvtEngine* e, const char* name, const char* gas, size_t n,
+                                 const double* const* args, const size_t* strides,
+                                 double* out, int32_t* codes, int32_t threads);
+
+/* The general form, for a row found once: every row kvtEval takes, and the
+   pair and 14-output rows (a gas text given in `gas`, else null). outs[j]
+   receives output j of every point (fn->outputs arrays of n). A point fails
+   when the call fails or any of its outputs is not finite: every output is
+   then NaN and its code is the call's, or 1. */
+KVT_BATCH_API int64_t kvtEvalRow(kvtEngine* e, const kvtFunctionInfo* fn, const char* gas,
+                                 size_t n, const double* const* args, const size_t* strides,
+                                 double* const* outs, int32_t* codes, int32_t threads);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* KVTCORE_BATCH_H */
