@@ -1,0 +1,3 @@
+# The README's test command: the release build and every test of it.
+need cmake g++ make libgtest-dev libbenchmark-dev
+cmake --preset release && cmake --build build/release -j2 && ctest --preset release
