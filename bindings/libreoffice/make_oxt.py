@@ -12,10 +12,12 @@ The extension holds:
                             kvtcore_calc_functions.py (the argument kinds)
 
     python3 bindings/libreoffice/make_oxt.py [--out build/oxt/kvtcore.oxt]
-                                             [--package DIR] [--unoidl-write EXE]
+        [--package DIR [--library libkvtcore.so]] [--unoidl-write EXE]
 
---package is the kvtcore package folder to carry (default: the one that
-`import kvtcore` finds); unoidl-write comes from libreoffice-dev.
+--package is the kvtcore package folder to carry (default: the installed one
+that `import kvtcore` finds), --library the libkvtcore.so to put in it (the
+CMake target oxt gives python/kvtcore and the library it built);
+unoidl-write comes from libreoffice-dev.
 """
 import argparse
 import glob
@@ -194,7 +196,7 @@ def find_unoidl_write():
     raise SystemExit("unoidl-write not found: apt-get install libreoffice-dev")
 
 
-def build(out, package, unoidl_write, program=PROGRAM):
+def build(out, package, library, unoidl_write, program=PROGRAM):
     rows = functions()
     with tempfile.TemporaryDirectory() as tmp:
         def write(name, text):
@@ -213,8 +215,12 @@ def build(out, package, unoidl_write, program=PROGRAM):
         write("description.xml", DESCRIPTION)
         write("pythonpath/kvtcore_calc_functions.py", function_table(rows))
         shutil.copy(os.path.join(HERE, "kvtcore_calc.py"), tmp)
-        shutil.copytree(package, os.path.join(tmp, "pythonpath", "kvtcore"),
-                        ignore=shutil.ignore_patterns("__pycache__", "*.pyc"))
+        carried = os.path.join(tmp, "pythonpath", "kvtcore")
+        shutil.copytree(package, carried, ignore=shutil.ignore_patterns("__pycache__", "*.pyc"))
+        if library:
+            shutil.copyfile(library, os.path.join(carried, "libkvtcore.so"))
+        if not os.path.exists(os.path.join(carried, "libkvtcore.so")):
+            raise SystemExit(f"{package} has no libkvtcore.so: give --library")
         os.makedirs(os.path.dirname(os.path.abspath(out)), exist_ok=True)
         with zipfile.ZipFile(out, "w", zipfile.ZIP_DEFLATED) as oxt:
             for path in sorted(glob.glob(os.path.join(tmp, "**"), recursive=True)):
@@ -227,10 +233,11 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__.split("\n")[0])
     parser.add_argument("--out", default=os.path.join("build", "oxt", "kvtcore.oxt"))
     parser.add_argument("--package", help="the kvtcore package folder to carry")
+    parser.add_argument("--library", help="the libkvtcore.so to put in the package")
     parser.add_argument("--unoidl-write", help="path of unoidl-write")
     parser.add_argument("--program", default=PROGRAM, help="LibreOffice's program folder (types.rdb)")
     args = parser.parse_args()
-    count = build(args.out, args.package or find_package(),
+    count = build(args.out, args.package or find_package(), args.library,
                   args.unoidl_write or find_unoidl_write(), args.program)
     print(f"{args.out}: {count} functions")
 

@@ -182,13 +182,13 @@ def write_sheet(doc):
     for i, (name, *args) in enumerate(CASES + FAILING):
         cell(0, i).setString(formula(name, args)[1:])
         cell(1, i).setFormula(formula(name, args))
-    top = len(CASES + FAILING) + 2           # the array block's heading row
+    top = len(CASES + FAILING) + 5           # the array block's heading row
     first, last = top + 2, top + 1 + len(P)  # its rows, as Calc numbers them
     arrays = [f"C{first}:C{last}", f"=KVT_HPT(A{first}:A{last};B{first}:B{last})",
               f"D{first}:E{last}", f"=KVT_HPT(A{first}:A{last};D{top + 1}:E{top + 1})",
               f"G{first}:G{last}", f"=KVT_GCPGST(F{first}:F{last};B{first}:B{last})"]
-    cell(0, top - 1).setString("Array formulas, entered with Ctrl+Shift+Enter: "
-                               + "   ".join("{%s}" % f for f in arrays[1::2]))
+    for i, (where, text) in enumerate(zip(arrays[0::2], arrays[1::2])):
+        cell(0, top - 4 + i).setString(f"{where}: {{{text}}}  (an array formula: Ctrl+Shift+Enter)")
     for c, heading in enumerate(["p [Pa]", "T [K]", "h [J/kg]", T_ROW[0], T_ROW[1], "gas", "cp [J/(kg K)]"]):
         (cell(c, top).setValue if isinstance(heading, float) else cell(c, top).setString)(heading)
     for i, (p, t, gas) in enumerate(zip(P, T, GASES)):
@@ -253,6 +253,16 @@ def check_wizard(office):
     return failures
 
 
+def render(pdf, png):
+    """The printed page as a PNG, cut to what is on it (pdftoppm of
+    poppler-utils, and Pillow)."""
+    from PIL import Image, ImageChops
+    subprocess.run(["pdftoppm", "-png", "-r", "150", "-singlefile", pdf, os.path.splitext(png)[0]], check=True)
+    page = Image.open(png).convert("RGB")
+    box = ImageChops.difference(page, Image.new("RGB", page.size, "white")).getbbox()
+    page.crop((box[0] - 20, box[1] - 20, box[2] + 20, box[3] + 20)).save(png)
+
+
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("oxt")
@@ -283,9 +293,8 @@ def main():
             wizard = check_wizard(office)
         with open(out, newline="", encoding="utf-8") as f:
             rows = list(csv.reader(f))
-        if args.png:   # pdftoppm, of poppler-utils
-            subprocess.run(["pdftoppm", "-png", "-r", "110", "-singlefile", os.path.join(work, "sheet.pdf"),
-                            os.path.splitext(args.png)[0]], check=True)
+        if args.png:
+            render(os.path.join(work, "sheet.pdf"), args.png)
         want = expected(lib, top)
         cells = check_values(rows, want)
         for line in cells + wizard:
