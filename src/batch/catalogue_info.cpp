@@ -37,13 +37,16 @@ struct RowText {
 const RowText kRows[] = {KVT_CATALOGUE(KVT_ROW_TEXT)};
 const char* const kOut14Text = KVT_STRINGS(KVT_OUT14);
 
+// Blanks and the quotes of a unit off both ends.
 std::string Trim(std::string s) {
-  const size_t a = s.find_first_not_of(" \"()");
+  const size_t a = s.find_first_not_of(" \"");
   if (a == std::string::npos) return std::string();
-  return s.substr(a, s.find_last_not_of(" \"()") + 1 - a);
+  return s.substr(a, s.find_last_not_of(" \"") + 1 - a);
 }
 
-std::vector<std::string> Split(const std::string& text) {
+// The items of a list "(a, b, ...)" or "a, b, ...".
+std::vector<std::string> Split(std::string text) {
+  if (!text.empty() && text.front() == '(') text = text.substr(1, text.size() - 2);
   std::vector<std::string> items;
   size_t start = 0;
   for (size_t comma; (comma = text.find(',', start)) != std::string::npos; start = comma + 1)
