@@ -28,6 +28,7 @@ import socket
 import subprocess
 import sys
 import tempfile
+import threading
 import time
 import zipfile
 
@@ -40,6 +41,7 @@ sys.path.insert(0, HERE)
 import make_oxt  # noqa: E402
 
 PROGRAM = "/usr/lib/libreoffice/program"
+LIMIT = 300  # seconds for the whole session with soffice
 AIR = "N2:0.79;O2:0.21"
 
 # One formula per row: the export and its arguments, the library's value
@@ -59,6 +61,7 @@ CASES = [
     ("gCPGST", AIR, 500.0),          # a gas by its text
     ("gHIDT", 0, 800.0),             # a gas by its id
     ("gMMGS", "CO2"),
+    ("gVFGSGS", AIR, "O2"),          # two texts: a fraction of a mixture
 ]
 FAILING = [
     ("HPT", -1.0, 300.0),            # no state at a negative pressure
@@ -137,6 +140,11 @@ class Office:
              f"--accept=socket,host=127.0.0.1,port={port};urp;"],
             env=self.env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
             start_new_session=True, **self.run_as)
+        # A call into soffice that never returns cannot be interrupted from
+        # Python: past the limit, stop soffice from a thread and fail.
+        self.watchdog = threading.Timer(LIMIT, self.abandon)
+        self.watchdog.daemon = True
+        self.watchdog.start()
         local = uno.getComponentContext()
         resolver = local.ServiceManager.createInstanceWithContext("com.sun.star.bridge.UnoUrlResolver", local)
         deadline = time.monotonic() + 60
@@ -155,9 +163,16 @@ class Office:
     def create(self, service):
         return self.ctx.ServiceManager.createInstanceWithContext(service, self.ctx)
 
+    def abandon(self):
+        print(f"FAIL soffice did not finish within {LIMIT} s", flush=True)
+        os.killpg(self.process.pid, signal.SIGKILL)
+        shutil.rmtree(self.work, ignore_errors=True)
+        os._exit(1)
+
     def __exit__(self, *exc):
         if self.process is None:
             return
+        self.watchdog.cancel()
         with contextlib.suppress(Exception):
             self.desktop.terminate()
         try:
