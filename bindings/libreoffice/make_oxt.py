@@ -35,7 +35,6 @@ import catalogue  # noqa: E402
 
 VERSION = "6.0.1"
 MODULE = "org.kvtcore.calc"
-INTERFACE = MODULE + ".XKvtCore"
 SERVICE = MODULE + ".KvtCore"        # the implementation Calc creates by this name
 PROGRAM = "/usr/lib/libreoffice/program"
 
@@ -52,15 +51,15 @@ WORDS = {
     "lambda": "thermal conductivity", "eta": "dynamic viscosity",
     "nu": "kinematic viscosity", "Pr": "Prandtl number",
     "muJT": "Joule-Thomson coefficient",
-    "id": "gas id: 0 N2, 1 O2, 2 CO, 3 CO2, 4 H2O, 5 SO2, 6 Air, ..., 12 H2",
+    "id": "gas id: 0 N2, 1 O2, 2 CO, 3 CO2, 4 H2O, 5 SO2, 6 Air, ..., 12 H2, 13 AirMix",
     "gs": "gas text, a name or a mixture such as N2:0.79;O2:0.21",
 }
 FRACTION_WORDS = {"mixture": "the mixture", "component": "the component"}
 
 
-def functions(rows=None):
+def functions():
     """The rows Calc gets: every evaluable one, in the catalogue's order."""
-    return [r for r in (rows or catalogue.read()) if r.evaluable]
+    return [r for r in catalogue.read() if r.evaluable]
 
 
 def display_name(row):
@@ -72,7 +71,7 @@ def kind(arg):
     return {"double": "d", "int32_t": "i", "const char*": "s"}[arg.ctype]
 
 
-def describe_argument(row, arg):
+def describe_argument(arg):
     if arg.name in FRACTION_WORDS:
         what = "gas id" if arg.ctype == "int32_t" else "gas text"
         return f"{what} of {FRACTION_WORDS[arg.name]}"
@@ -86,6 +85,9 @@ def describe_function(row):
 
 
 def idl(rows):
+    # Arguments of type any take a cell's value or a range; the result, rows
+    # of numbers, fills an array formula's range or, as one row of one
+    # number, a cell.
     methods = "\n".join(
         f"        sequence< sequence< double > > {r.name}({', '.join(f'[in] any {a.name}' for a in r.inputs)});" for r in rows)
     opening = " ".join(f"module {m} {{" for m in MODULE.split("."))
@@ -112,7 +114,7 @@ def xcu(rows):
         params = "".join(
             f'\n          <node oor:name="{a.name}" oor:op="replace">'
             f'<prop oor:name="DisplayName">{_value(a.name)}</prop>'
-            f'<prop oor:name="Description">{_value(describe_argument(r, a))}</prop></node>'
+            f'<prop oor:name="Description">{_value(describe_argument(a))}</prop></node>'
             for i, a in enumerate(r.inputs, 1))
         nodes.append(f"""      <node oor:name="{r.name}" oor:op="replace">
         <prop oor:name="DisplayName">{_value(display_name(r))}</prop>

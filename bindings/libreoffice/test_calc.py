@@ -145,6 +145,14 @@ class Office:
         self.watchdog = threading.Timer(LIMIT, self.abandon)
         self.watchdog.daemon = True
         self.watchdog.start()
+        try:
+            self.connect(port)
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def connect(self, port):
         local = uno.getComponentContext()
         resolver = local.ServiceManager.createInstanceWithContext("com.sun.star.bridge.UnoUrlResolver", local)
         deadline = time.monotonic() + 60
@@ -158,7 +166,6 @@ class Office:
                     raise
                 time.sleep(0.5)
         self.desktop = self.create("com.sun.star.frame.Desktop")
-        return self
 
     def create(self, service):
         return self.ctx.ServiceManager.createInstanceWithContext(service, self.ctx)
@@ -172,7 +179,6 @@ class Office:
     def __exit__(self, *exc):
         if self.process is None:
             return
-        self.watchdog.cancel()
         with contextlib.suppress(Exception):
             self.desktop.terminate()
         try:
@@ -180,6 +186,13 @@ class Office:
         except subprocess.TimeoutExpired:
             os.killpg(self.process.pid, signal.SIGKILL)   # its own session: soffice and soffice.bin
             self.process.wait(timeout=30)
+        self.watchdog.cancel()
+        self.process = None
+
+    def remove(self):
+        """unopkg remove, as a user takes the extension away again."""
+        self.tool("unopkg", "remove", "org.kvtcore.calc")
+        return "org.kvtcore.calc" not in self.tool("unopkg", "list").stdout
 
     def load(self, path):
         return self.desktop.loadComponentFromURL(uno.systemPathToFileUrl(path), "_blank", 0,
@@ -260,7 +273,7 @@ def check_wizard(office):
         if d["Name"].startswith("KVT_"):
             listed[d["Name"]] = (d["Description"], [(a.Name, a.Description) for a in d["Arguments"] or ()])
     want = {make_oxt.display_name(r): (make_oxt.describe_function(r),
-                                       [(a.name, make_oxt.describe_argument(r, a)) for a in r.inputs])
+                                       [(a.name, make_oxt.describe_argument(a)) for a in r.inputs])
             for r in make_oxt.functions()}
     failures = [f"{n}: listed as {listed.get(n)}, catalogue says {w}"
                 for n, w in want.items() if listed.get(n) != w]
@@ -306,18 +319,19 @@ def main():
                                (prop("FilterName", "calc_pdf_Export"),))
             doc.close(True)
             wizard = check_wizard(office)
+        removed = office.remove()
         with open(out, newline="", encoding="utf-8") as f:
             rows = list(csv.reader(f))
         if args.png:
             render(os.path.join(work, "sheet.pdf"), args.png)
         want = expected(lib, top)
         cells = check_values(rows, want)
-        for line in cells + wizard:
+        for line in cells + wizard + ([] if removed else ["unopkg remove left the extension installed"]):
             print("FAIL", line)
-        print(f"{len(want)} cells and the wizard's {len(make_oxt.functions())} functions checked "
-              f"in {time.monotonic() - started:.1f} s")
-        failed = len(cells) + (1 if wizard else 0)
-        print(f"{len(want) + 1 - failed} passed, {failed} failed")
+        print(f"{len(want)} cells, the wizard's {len(make_oxt.functions())} functions and the removal "
+              f"checked in {time.monotonic() - started:.1f} s")
+        failed = len(cells) + bool(wizard) + (not removed)
+        print(f"{len(want) + 2 - failed} passed, {failed} failed")
         return 1 if failed else 0
     finally:
         shutil.rmtree(work, ignore_errors=True)
