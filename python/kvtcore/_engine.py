@@ -23,6 +23,7 @@ class _Engine:
         self.ptr = _lib.engine_new()
         if not self.ptr:
             raise MemoryError("kvtcore: no memory for an engine")
+        self.handle = ctypes.c_void_p(self.ptr)
         self.last = 0                       # the thread's last error code
         self.inputs = (c_double * 8)()
         self.args = (c_void_p * 8)(*(addressof(self.inputs) + 8 * i for i in range(8)))

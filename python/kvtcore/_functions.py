@@ -294,6 +294,25 @@ def docstring(fn):
     return "\n".join(lines)
 
 
+# The scalar path of a one-number row, inlined into its function: plain
+# numbers, errors raised; anything else, or a failed point, takes the general
+# road (which evaluates the point again to report it).
+_FAST = """\
+    if {test} and errors == "raise":
+        try:
+            e = _local.engine
+        except AttributeError:
+            e = _engine()
+        i = e.inputs
+        {store}
+        _call(e.handle, _row, None, _one, e.args, None, e.outs, e.code_ptr, _one_thread)
+        v = e.outputs[0]
+        if e.code.value == 0 and v - v == 0.0:
+            e.last = 0
+            return v
+"""
+
+
 def make(fn, module):
     """The Python function of one row, placed in `module` under its short name."""
     params = ", ".join(_identifier(n) for n, _ in fn.inputs)
@@ -301,17 +320,23 @@ def make(fn, module):
         fn.tuple = collections.namedtuple(f"{fn.name}Result", [_identifier(n) for n, _ in fn.outputs],
                                           module=results.__name__)
         setattr(results, fn.tuple.__name__, fn.tuple)
+    fast = ""
     if fn.kind == "array":
         head = f"{params}, *, errors='raise', workers=None" if params else "*, errors='raise', workers=None"
         body = f"_evaluate(_fn, ({params}{',' if params else ''}), errors, workers)"
+        if params and fn.gas != 2 and len(fn.outputs) == 1 and not fn.integer:
+            fast = _FAST.format(test=" and ".join(f"type({a}) in _S" for a in params.split(", ")),
+                                store="; ".join(f"i[{k}] = {a}" for k, a in enumerate(params.split(", "))))
     elif fn.kind == "shared":
         head = f"{params}, *, errors='raise'" if params else "*, errors='raise'"
         body = f"_shared(_fn, ({params}{',' if params else ''}), errors)"
     else:
         head, body = params, f"_impl({params})"
-    space = {"_evaluate": evaluate, "_shared": call_shared, "_fn": fn,
-             "_impl": SPECIAL.get(fn.name) or ENGINE_GAS.get(fn.name)}
-    exec(f"def {fn.name}({head}):\n    return {body}\n", space)
+    space = {"_evaluate": evaluate, "_shared": call_shared, "_fn": fn, "_S": _SCALAR,
+             "_impl": SPECIAL.get(fn.name) or ENGINE_GAS.get(fn.name), "_local": _engine._local,
+             "_engine": engine, "_call": _lib.eval_row_raw, "_row": c_void_p(fn.ptr),
+             "_one": c_size_t(1), "_one_thread": c_int32(1)}
+    exec(f"def {fn.name}({head}):\n{fast}    return {body}\n", space)
     f = space[fn.name]
     f.__module__, f.__qualname__, f.__doc__ = module.__name__, fn.name, docstring(fn)
     f.info = fn

@@ -51,6 +51,10 @@ error_message = _proto("kvtErrorMessage", c_char_p, c_int32)
 # engine, row, gas text, n, args, strides, outs, codes, threads
 eval_row = _proto("kvtEvalRow", c_int64, c_void_p, c_void_p, c_char_p, c_size_t,
                   c_void_p, c_void_p, c_void_p, c_void_p, c_int32)
+# The same entry without argtypes, for the scalar path: it is handed ctypes
+# objects that need no conversion, which is the cheapest call ctypes has.
+eval_row_raw = lib["kvtEvalRow"]
+eval_row_raw.restype = c_int64
 range_text = getattr(lib, "kvtRangeText", None)
 if range_text is not None:
     range_text.restype, range_text.argtypes = c_char_p, [c_char_p]

@@ -16,7 +16,7 @@ import kvtcore
 
 T_TRIPLE, T_CRIT, P_CRIT = 273.16, 647.096, 22.064e6
 PRESSURES = (1e3, 1e4, 1e5, 1e6, 5e6, P_CRIT, 50e6, 100e6)
-TEMPERATURES = (300.0, 400.0, 500.0, 600.0, T_CRIT, 700.0, 800.0, 1000.0)
+TEMPERATURES = (300.0, 400.0, 500.0, 600.0, 700.0, 800.0, 1000.0)
 DRYNESS = (0.1, 0.2, 0.3, 0.4, 0.5, 0.6, 0.7, 0.8, 0.9)
 T_MAX = 1073.15
 COLORS = {"dome": "black", "p": "tab:blue", "T": "tab:red", "x": "tab:green"}
