@@ -81,11 +81,15 @@ class KvtError(ValueError):
     """
 
     def __init__(self, code, function="", index=None):
-        self.code, self.function, self.index = int(code), function, index
+        self.code, self.function = int(code), function
+        self.index = tuple(int(i) for i in index) if index is not None else None
         self.message, self.text = error_message(self.code), library_text(self.code)
         where = f" at index {index}" if index is not None else ""
         super().__init__(f"{function}: {self.message}{where} "
                          f"(error {self.code}: {self.text})")
+
+    def __reduce__(self):   # so that Dask brings it back from a worker whole
+        return KvtError, (self.code, self.function, self.index)
 
 
 # ---- Settings ----

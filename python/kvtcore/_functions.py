@@ -75,7 +75,7 @@ class Info:
         self.kind = ("setting" if self.name in SPECIAL else
                      "gas" if self.name in ENGINE_GAS else
                      "array" if self.evaluable or len(self.outputs) > 1 else "shared")
-        text = _lib.range_text(self.export.encode()) if _lib.range_text else None
+        text = _lib.range_text(self.rule.encode()) if _lib.range_text else None
         self.range = text.decode() if text else ""
         self.tuple = None
 
@@ -273,7 +273,9 @@ def _identifier(name):
 
 
 def docstring(fn):
-    lines = [f"{fn.name}({', '.join(_identifier(n) for n, _ in fn.inputs)}) -> {fn.result}", ""]
+    returns = (f"{fn.tuple.__name__}({', '.join(n for n, _ in fn.outputs)})"
+               if len(fn.outputs) > 1 else fn.result)
+    lines = [f"{fn.name}({', '.join(_identifier(n) for n, _ in fn.inputs)}) -> {returns}", ""]
     if fn.inputs:
         lines.append("Arguments:")
         for name, unit in fn.inputs:
