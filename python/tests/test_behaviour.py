@@ -3,6 +3,7 @@ catalogue as functions, Dask and charts."""
 import inspect
 import math
 import os
+import pickle
 import sys
 import threading
 
@@ -39,6 +40,7 @@ def test_error_mapping(name, args, good, code):
     with pytest.raises(kvtcore.KvtError) as raised:
         f(*array)
     assert raised.value.index == (1,) and raised.value.code == code
+    assert pickle.loads(pickle.dumps(raised.value)).index == (1,)    # as Dask sends it
     values, codes = f(*array, errors="codes")
     assert list(codes) == [0, code, 0] and np.isnan(values[1]) and np.isfinite(values[[0, 2]]).all()
 
