@@ -101,7 +101,9 @@ def evaluate(fn, args, errors, workers):
     if errors not in ERRORS:
         raise ValueError(f"{fn.name}: errors is one of {', '.join(ERRORS)}, not {errors!r}")
     gas = None
-    if fn.gas == 2:
+    if fn.shape == "FSS":                        # two texts, given as "mixture|component"
+        gas, args = _gas_text(args[0], fn.name) + b"|" + _gas_text(args[1], fn.name), args[2:]
+    elif fn.gas == 2:
         gas, args = _gas_text(args[0], fn.name), args[1:]
     for a in args:
         if type(a) not in _SCALAR:
