@@ -109,8 +109,8 @@ def _figure(ax, x, y, title):
     return ax.figure, ax
 
 
-def _finish(ax):
-    ax.legend(loc="upper left", fontsize=8, framealpha=0.9)
+def _finish(ax, where="upper left"):
+    ax.legend(loc=where, fontsize=8, framealpha=0.9)
     ax.figure.tight_layout()
 
 
@@ -152,5 +152,5 @@ def ph(ax=None, temperatures=TEMPERATURES, dryness=DRYNESS):
     ax.set_yscale("log")
     ax.set_xlim(0, 4200)
     ax.set_ylim(611e-6, 100)
-    _finish(ax)
+    _finish(ax, "lower right")
     return fig
