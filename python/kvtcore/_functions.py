@@ -141,7 +141,7 @@ def _array(fn, gas, args, errors, workers):
     n = math.prod(shape)
     m = len(fn.outputs)
     outs = [np.empty(shape) for _ in range(m)]
-    codes = np.zeros(shape, np.int32)
+    codes = np.zeros(shape, np.int32) if n == 0 else np.empty(shape, np.int32)
     if n:
         pointers, strides = [], []
         for i, a in enumerate(arrays):
@@ -153,11 +153,13 @@ def _array(fn, gas, args, errors, workers):
                 strides.append(1)
             pointers.append(a.ctypes.data)
         k = max(len(arrays), 1)
-        threads = workers if workers is not None else (0 if n >= BIG else 1)
+        threads = int(workers) if workers is not None else (0 if n >= BIG else 1)
+        if threads < 0:
+            raise ValueError(f"{fn.name}: workers is 0 (every core) or more, not {workers}")
         e = engine()
         failed = _lib.eval_row(e.ptr, fn.ptr, gas, n, (c_void_p * k)(*pointers),
                                (c_size_t * k)(*strides), (c_void_p * m)(*(o.ctypes.data for o in outs)),
-                               codes.ctypes.data, int(threads))
+                               codes.ctypes.data, threads)
         if failed < 0:
             raise RuntimeError(f"kvtcore: the library refused {fn.name}")
         finite = np.isfinite(outs[0])
@@ -168,11 +170,13 @@ def _array(fn, gas, args, errors, workers):
             codes[bad & (codes == 0)] = 1
             for o in outs:
                 o[bad] = np.nan
-        first = int(np.argmax(codes != 0)) if codes.size else 0
-        code = int(codes.flat[first]) if codes.size else 0
-        e.last = code
-        if code and errors == "raise":
-            raise KvtError(code, fn.name, np.unravel_index(first, shape) if shape else None)
+            failed = 1
+        e.last = 0
+        if failed:
+            first = int(np.argmax(codes != 0))
+            e.last = int(codes.flat[first])
+            if errors == "raise":
+                raise KvtError(e.last, fn.name, np.unravel_index(first, shape) if shape else None)
     if shape == ():
         outs = [float(o) for o in outs]
         codes = int(codes)
@@ -311,7 +315,7 @@ _FAST = """\
         {store}
         _call(e.handle, _row, None, _one, e.args, None, e.outs, e.code_ptr, _one_thread)
         v = e.outputs[0]
-        if e.code.value == 0 and v - v == 0.0:
+        if v - v == 0.0:           # a failed point is NaN
             e.last = 0
             return v
 """
