@@ -91,8 +91,10 @@ _SCALAR = {float, int, np.float64, np.float32, np.int64, np.int32}
 
 def _gas_text(value, name):
     if isinstance(value, str):
-        return value.encode("utf-8")
+        value = value.encode("utf-8")
     if isinstance(value, bytes):
+        if b"\0" in value:
+            raise ValueError(f"{name}: a gas-spec text holds no NUL character")
         return value
     raise TypeError(f"{name}: the gas is one gas-spec text (str), not {type(value).__name__}")
 
@@ -257,7 +259,7 @@ def call_shared(fn, args, errors="raise"):
     restype, argtypes = SHAPES[fn.shape]
     if export.argtypes is None:
         export.restype, export.argtypes = restype, list(argtypes)
-    args = [a.encode("utf-8") if isinstance(a, str) else a for a in args]
+    args = [_gas_text(a, fn.name) if isinstance(a, str) else a for a in args]
     with _engine._shared_lock:
         value = export(*args)
         code = _lib.get_last_error()

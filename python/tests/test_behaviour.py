@@ -49,7 +49,8 @@ def test_non_finite_outputs_fail_and_bad_calls_are_refused():
     values, codes = kvtcore.VUSHCVWDERPTPT([3e6, 3e6], [300, 100], errors="codes")
     assert list(codes) == [0, 2] and all(np.isnan(v[1]) and np.isfinite(v[0]) for v in values)
     for call in (lambda: kvtcore.HPT(1e5, 300, errors="ignore"), lambda: kvtcore.gCPGST(["N2"], 500),
-                 lambda: kvtcore.HPT([1, [2]], 300), lambda: kvtcore.HPT(np.ones(2), np.ones(3))):
+                 lambda: kvtcore.HPT([1, [2]], 300), lambda: kvtcore.HPT(np.ones(2), np.ones(3)),
+                 lambda: kvtcore.gCPGST("N2\0O2", 500), lambda: kvtcore.HPT(np.ones(2), 300, workers=-1)):
         with pytest.raises((ValueError, TypeError)):
             call()
 
