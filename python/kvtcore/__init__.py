@@ -7,7 +7,7 @@ numpy ufunc and evaluate arrays on every core with the GIL released:
 
     >>> import kvtcore
     >>> kvtcore.HPT(3e6, 300)                    # J/kg
-    115333.3...
+    115331.27...
     >>> kvtcore.HPT([1e5, 3e6], [[300], [400]])  # a 2 x 2 array
     >>> kvtcore.VUSHCVWDERPTPT(1e5, 400).cp      # one of fourteen outputs
 

@@ -43,10 +43,14 @@ SHAPES = {"D0": (_d, ()), "D1": (_d, (_d,)), "D2": (_d, (_d,) * 2), "D3": (_d, (
           "IS1": (_i, (_s,)), "C0": (_s, ()), "CI1": (_s, (_i,)), "CS1": (_s, (_s,)),
           "W0": (ctypes.c_void_p, ())}
 
-WORDS = {"p": "pressure", "T": "temperature", "h": "specific enthalpy",
-         "s": "specific entropy", "v": "specific volume", "rho": "density",
-         "x": "dryness fraction", "u": "specific internal energy", "id": "gas id",
-         "gs": "gas-spec text", "eta": "efficiency", "T1": "temperature", "T2": "temperature"}
+WORDS = {"p": "pressure", "T": "temperature", "h": "specific enthalpy", "s": "specific entropy",
+         "v": "specific volume", "u": "specific internal energy", "rho": "density",
+         "x": "dryness fraction", "p1": "inlet pressure", "T1": "inlet temperature",
+         "x1": "inlet dryness fraction", "p2": "outlet pressure", "efficiency": "isentropic efficiency",
+         "cp": "isobaric heat capacity", "cv": "isochoric heat capacity", "w": "speed of sound",
+         "eta": "dynamic viscosity", "nu": "kinematic viscosity", "lambda": "thermal conductivity",
+         "Pr": "Prandtl number", "k": "isentropic exponent", "muJT": "Joule-Thomson coefficient",
+         "rhoStart": "density to start the solve from", "id": "gas id", "gs": "gas-spec text"}
 
 FOOTER = """
 Numbers, lists and numpy arrays of any shape are taken and broadcast like a
@@ -288,10 +292,10 @@ def docstring(fn):
         lines.append("Arguments:")
         for name, unit in fn.inputs:
             word = WORDS.get(name, "")
-            lines.append(f"  {name:6s} {word}{' ' if word and unit else ''}{'[' + unit + ']' if unit else ''}")
+            lines.append(f"  {name:10s} {word}{' ' if word and unit else ''}{'[' + unit + ']' if unit else ''}")
     if len(fn.outputs) > 1:
         lines += ["", f"Returns the named tuple {fn.tuple.__name__}:"]
-        lines += [f"  {name:6s} [{unit}]" if unit else f"  {name}" for name, unit in fn.outputs]
+        lines += [f"  {name:10s} [{unit}]" if unit else f"  {name}" for name, unit in fn.outputs]
     if fn.range:
         lines += ["", "Valid range: " + fn.range]
     lines += ["", f"Export {fn.export}, ordinal {fn.ordinal}, range rule {fn.rule}."]
