@@ -20,6 +20,7 @@ CMake target oxt gives python/kvtcore and the library it built);
 unoidl-write comes from libreoffice-dev.
 """
 import argparse
+import ast
 import glob
 import os
 import shutil
@@ -38,23 +39,20 @@ MODULE = "org.kvtcore.calc"
 SERVICE = MODULE + ".KvtCore"        # the implementation Calc creates by this name
 PROGRAM = "/usr/lib/libreoffice/program"
 
-# Words for the argument names of the catalogue, shown in the function wizard
-# beside the unit; a name without a word here is shown as it is.
-WORDS = {
-    "p": "pressure", "p1": "inlet pressure", "p2": "outlet pressure",
-    "T": "temperature", "T1": "inlet temperature", "h": "specific enthalpy",
-    "s": "specific entropy", "u": "specific internal energy", "v": "specific volume",
-    "rho": "density", "rhoStart": "density to start the iteration from",
-    "x": "dryness fraction", "x1": "inlet dryness fraction",
-    "efficiency": "isentropic efficiency", "cp": "isobaric heat capacity",
-    "cv": "isochoric heat capacity", "w": "speed of sound", "k": "isentropic exponent",
-    "lambda": "thermal conductivity", "eta": "dynamic viscosity",
-    "nu": "kinematic viscosity", "Pr": "Prandtl number",
-    "muJT": "Joule-Thomson coefficient",
-    "id": "gas id: 0 N2, 1 O2, 2 CO, 3 CO2, 4 H2O, 5 SO2, 6 Air, ..., 12 H2, 13 AirMix",
-    "gs": "gas text, a name or a mixture such as N2:0.79;O2:0.21",
-}
+# What the wizard adds to the words of the Python package for gas arguments.
+GAS_EXAMPLES = {"id": "0 N2, 1 O2, 3 CO2, 6 Air, 12 H2, ...", "gs": "N2:0.79;O2:0.21"}
 FRACTION_WORDS = {"mixture": "the mixture", "component": "the component"}
+
+
+def argument_words(package):
+    """The words for argument names that the Python package's docstrings use
+    (WORDS in its _functions.py), read without loading the library."""
+    with open(os.path.join(package, "_functions.py"), encoding="utf-8") as f:
+        tree = ast.parse(f.read())
+    for node in tree.body:
+        if isinstance(node, ast.Assign) and any(getattr(t, "id", "") == "WORDS" for t in node.targets):
+            return ast.literal_eval(node.value)
+    raise SystemExit(f"{package}/_functions.py has no WORDS")
 
 
 def functions():
@@ -71,11 +69,14 @@ def kind(arg):
     return {"double": "d", "int32_t": "i", "const char*": "s"}[arg.ctype]
 
 
-def describe_argument(arg):
+def describe_argument(arg, words):
+    """The wizard's help for an argument: its word and unit, pressure [Pa]."""
     if arg.name in FRACTION_WORDS:
-        what = "gas id" if arg.ctype == "int32_t" else "gas text"
+        what = "gas id" if arg.ctype == "int32_t" else "gas-spec text"
         return f"{what} of {FRACTION_WORDS[arg.name]}"
-    word = WORDS.get(arg.name, arg.name)
+    word = words.get(arg.name, arg.name)
+    if arg.name in GAS_EXAMPLES:
+        word += f", e.g. {GAS_EXAMPLES[arg.name]}"
     return f"{word} [{arg.unit}]" if arg.unit else word
 
 
@@ -107,14 +108,14 @@ def _value(text):
     return f'<value xml:lang="en">{escape(text)}</value>'
 
 
-def xcu(rows):
+def xcu(rows, words):
     nodes = []
     for r in rows:
         # Calc matches these nodes to the method's parameters by name.
         params = "".join(
             f'\n          <node oor:name="{a.name}" oor:op="replace">'
             f'<prop oor:name="DisplayName">{_value(a.name)}</prop>'
-            f'<prop oor:name="Description">{_value(describe_argument(a))}</prop></node>'
+            f'<prop oor:name="Description">{_value(describe_argument(a, words))}</prop></node>'
             for i, a in enumerate(r.inputs, 1))
         nodes.append(f"""      <node oor:name="{r.name}" oor:op="replace">
         <prop oor:name="DisplayName">{_value(display_name(r))}</prop>
@@ -211,7 +212,7 @@ def build(out, package, library, unoidl_write, program=PROGRAM):
         source = write("XKvtCore.idl", idl(rows))
         subprocess.run([unoidl_write, os.path.join(program, "types.rdb"), source,
                         os.path.join(tmp, "XKvtCore.rdb")], check=True)
-        write("CalcAddIns.xcu", xcu(rows))
+        write("CalcAddIns.xcu", xcu(rows, argument_words(package)))
         write("kvtcore_calc.components", COMPONENTS)
         write("META-INF/manifest.xml", MANIFEST)
         write("description.xml", DESCRIPTION)

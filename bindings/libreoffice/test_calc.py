@@ -263,7 +263,7 @@ def check_values(rows, want):
     return failures
 
 
-def check_wizard(office):
+def check_wizard(office, words):
     """Every evaluable row is one function in Calc's function list, with the
     catalogue's arguments and the generated descriptions, and no other KVT_."""
     listed = {}
@@ -273,7 +273,7 @@ def check_wizard(office):
         if d["Name"].startswith("KVT_"):
             listed[d["Name"]] = (d["Description"], [(a.Name, a.Description) for a in d["Arguments"] or ()])
     want = {make_oxt.display_name(r): (make_oxt.describe_function(r),
-                                       [(a.name, make_oxt.describe_argument(a)) for a in r.inputs])
+                                       [(a.name, make_oxt.describe_argument(a, words)) for a in r.inputs])
             for r in make_oxt.functions()}
     failures = [f"{n}: listed as {listed.get(n)}, catalogue says {w}"
                 for n, w in want.items() if listed.get(n) != w]
@@ -300,8 +300,9 @@ def main():
     work = tempfile.mkdtemp(prefix="kvt-calc-")
     try:
         with zipfile.ZipFile(args.oxt) as oxt:
-            oxt.extract("pythonpath/kvtcore/libkvtcore.so", work)
-        lib = Library(os.path.join(work, "pythonpath", "kvtcore", "libkvtcore.so"))
+            oxt.extractall(work, [n for n in oxt.namelist() if n.startswith("pythonpath/kvtcore/")])
+        package = os.path.join(work, "pythonpath", "kvtcore")
+        lib = Library(os.path.join(package, "libkvtcore.so"))
         with Office(work, args.oxt) as office:
             ods, out = os.path.join(work, "sheet.ods"), os.path.join(work, "values.csv")
             doc = office.new_sheet()
@@ -318,7 +319,7 @@ def main():
                 doc.storeToURL(uno.systemPathToFileUrl(os.path.join(work, "sheet.pdf")),
                                (prop("FilterName", "calc_pdf_Export"),))
             doc.close(True)
-            wizard = check_wizard(office)
+            wizard = check_wizard(office, make_oxt.argument_words(package))
         removed = office.remove()
         with open(out, newline="", encoding="utf-8") as f:
             rows = list(csv.reader(f))
