@@ -3,7 +3,9 @@
 // each term read its powers by index instead of calling pow().
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <utility>
 
 namespace kvt {
 
@@ -26,11 +28,33 @@ class PowerTable {
     for (int32_t k = 1; k <= n; ++k) v[k] = x * v[k - 1];
   }
 
+  // Fill with a count known when compiling: the same running product, written
+  // out in full so that no loop counter stands between the products.
+  template <int32_t n>
+  void Fill(double x) {
+    FillSteps(values, x, std::make_integer_sequence<int32_t, n>{});
+  }
+
   // x^e; a negative e is one division by the stored positive power.
   double Power(int32_t e) const { return e >= 0 ? values[e] : 1.0 / values[-e]; }
 
+  // x^e for an exponent known when compiling: entry 0 is the constant 1.0 it
+  // always holds, so a product with it disappears without changing a bit.
+  template <int32_t e>
+  double Power() const {
+    if constexpr (e == 0) return 1.0;
+    else if constexpr (e > 0) return values[e];
+    else return 1.0 / values[-e];
+  }
+
   double* values;
   Engine* owner;
+
+ private:
+  template <int32_t... k>
+  static void FillSteps(double* v, double x, std::integer_sequence<int32_t, k...>) {
+    ((v[k + 1] = x * v[k]), ...);
+  }
 };
 
 }  // namespace kvt

@@ -418,12 +418,12 @@ class WaterCalculator {
   void NEWTON5RH(double rho, double h, double& p, double& T);
   template <int SA>
   void Region5Pi(double pi);
-  template <int SA, int SB>
-  Gibbs Region5Pass(double tau, Gibbs start, int32_t countB);
+  template <int SA, int SB, int32_t countB>
+  Gibbs Region5Pass(double tau, Gibbs start);
   template <int SA, int SB, int S>
   Gibbs MetastableSums(double pi, double tau);
-  template <int SA, int SB>
-  Gibbs Region5Sums(double pi, double tau, Gibbs start, int32_t countB);
+  template <int SA, int SB, int32_t countB>
+  Gibbs Region5Sums(double pi, double tau, Gibbs start);
   Gibbs Region2Full(double p, double tau);
 
   // Backward equation of the sub-region the state lies in.
