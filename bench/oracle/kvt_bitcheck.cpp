@@ -10,6 +10,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <limits>
 #include <string>
@@ -75,7 +76,14 @@ struct Hash {
   void Add(uint64_t v) {
     for (int i = 0; i < 8; ++i) { h ^= (v >> (8 * i)) & 0xff; h *= 0x100000001b3ull; }
   }
-  void Add(double d) { uint64_t v; std::memcpy(&v, &d, 8); Add(v); }
+  // Every NaN counts as one value: which NaN an operation passes on (its sign
+  // and payload) follows the operand order the compiler picks, which IEEE
+  // leaves open and which changes with the optimisation level alone.
+  void Add(double d) {
+    uint64_t v = 0x7ff8000000000000ull;
+    if (d == d) std::memcpy(&v, &d, 8);
+    Add(v);
+  }
 };
 
 // The settings each export is run under: toleranceMode, checkRangeMode,
@@ -88,6 +96,8 @@ template <class Call>
 void Run(const char* name, const char* core, int nargs, const char* const* units, Call call) {
   if (std::strncmp(core, "Engine::", 8) == 0) return;  // settings
   const int32_t defaultMax = kvtGETMAXITERATION();
+  const char* dump = std::getenv("KVT_BITCHECK_DUMP");  // an export's name: print its calls
+  const bool print = dump && std::strcmp(dump, name) == 0;
   Hash hash;
   for (const Setting& set : kSettings) {
     for (int i = 0; i < kCallsPerSetting; ++i) {
@@ -105,6 +115,11 @@ void Run(const char* name, const char* core, int nargs, const char* const* units
       hash.Add(call(a, out));
       hash.Add(static_cast<uint64_t>(kvtGETLASTERROR()));
       for (double o : out) hash.Add(o);
+      if (print) {
+        std::printf("%d %d %d |", set.mode, set.check, set.maxIt);
+        for (int k = 0; k < nargs; ++k) std::printf(" %.17g", a[k]);
+        std::printf(" | %a %d | %a %a\n", call(a, out), kvtGETLASTERROR(), out[0], out[1]);
+      }
     }
   }
   kvtSETTOLERANCEMODE(1);

@@ -12,6 +12,10 @@
 
 #include "regions/power_table.h"
 
+// The term passes are inlined into every core, so that each core keeps only
+// the sums it reads and the compiler drops the rest.
+#define KVT_PASS inline __attribute__((always_inline))
+
 namespace kvt {
 
 // Raw sums over the terms; the derivatives are by the table variables A, B.
@@ -40,7 +44,7 @@ namespace terms {
 // out bit for bit as that loop gives them. A factor 0 still multiplies: an
 // infinite power times 0 must give the NaN that marks the result invalid.
 template <int SA, int SB, int32_t I, int32_t J>
-inline void AddTerm(TermSums& r, double n, const PowerTable& A, const PowerTable& B) {
+KVT_PASS void AddTerm(TermSums& r, double n, const PowerTable& A, const PowerTable& B) {
   constexpr double fi = I, fj = J;
   const double t = n * A.Power<I - SA>() * B.Power<J - SB>();
   r.s += t * A.Power<SA>() * B.Power<SB>();
@@ -52,14 +56,14 @@ inline void AddTerm(TermSums& r, double n, const PowerTable& A, const PowerTable
 }
 
 template <int SA, int SB, const auto& N, const auto& I, const auto& J, size_t... k>
-inline TermSums Sum(const PowerTable& A, const PowerTable& B, std::index_sequence<k...>) {
+KVT_PASS TermSums Sum(const PowerTable& A, const PowerTable& B, std::index_sequence<k...>) {
   TermSums r;
   (AddTerm<SA, SB, I[k], J[k]>(r, N[k], A, B), ...);  // in table order
   return r;
 }
 
 template <class F, size_t... k>
-inline void Each(F& f, std::index_sequence<k...>) {
+KVT_PASS void Each(F& f, std::index_sequence<k...>) {
   (f(std::integral_constant<size_t, k>{}), ...);
 }
 
@@ -69,7 +73,7 @@ inline void Each(F& f, std::index_sequence<k...>) {
 // constant (std::integral_constant), so that a loop body can index the
 // exponent tables by it and read its powers with constant exponents.
 template <size_t count, class F>
-inline void ForEachIndex(F f) {
+KVT_PASS void ForEachIndex(F f) {
   terms::Each(f, std::make_index_sequence<count>{});
 }
 
@@ -78,7 +82,7 @@ inline void ForEachIndex(F f) {
 // exponents reach. The callers use only the sums they need; the others are
 // dropped by the compiler.
 template <int SA, int SB, const auto& N, const auto& I, const auto& J>
-inline TermSums SumTerms(const PowerTable& A, const PowerTable& B) {
+KVT_PASS TermSums SumTerms(const PowerTable& A, const PowerTable& B) {
   constexpr size_t count = sizeof N / sizeof N[0];
   static_assert(sizeof I / sizeof I[0] == count && sizeof J / sizeof J[0] == count);
   return terms::Sum<SA, SB, N, I, J>(A, B, std::make_index_sequence<count>{});
@@ -105,7 +109,7 @@ struct Gibbs {
 namespace terms {
 
 template <int S, int32_t J0>
-inline void AddIdeal(Gibbs& g, double n0, const PowerTable& table) {
+KVT_PASS void AddIdeal(Gibbs& g, double n0, const PowerTable& table) {
   constexpr double j = J0;
   const double e = n0 * table.Power<J0 - S>();
   g.g += e * table.Power<S>();
@@ -114,7 +118,7 @@ inline void AddIdeal(Gibbs& g, double n0, const PowerTable& table) {
 }
 
 template <int S, const auto& N0, const auto& J0, size_t... k>
-inline void AddIdealTerms(PowerTable& table, Gibbs& g, std::index_sequence<k...>) {
+KVT_PASS void AddIdealTerms(PowerTable& table, Gibbs& g, std::index_sequence<k...>) {
   (AddIdeal<S, J0[k]>(g, N0[k], table), ...);
 }
 
@@ -125,7 +129,7 @@ inline void AddIdealTerms(PowerTable& table, Gibbs& g, std::index_sequence<k...>
 // tau and each term reads tau^(J0 - S) once, so even terms whose factor is 0
 // take the same pattern. The log and 1/pi terms are the callers'.
 template <int S, const auto& N0, const auto& J0>
-inline void AddIdealTerms(PowerTable& table, double tau, Gibbs& g) {
+KVT_PASS void AddIdealTerms(PowerTable& table, double tau, Gibbs& g) {
   table.Fill<FillCount(J0, S)>(tau);
   terms::AddIdealTerms<S, N0, J0>(table, g, std::make_index_sequence<sizeof N0 / sizeof N0[0]>{});
 }

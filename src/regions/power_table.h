@@ -29,10 +29,14 @@ class PowerTable {
   }
 
   // Fill with a count known when compiling: the same running product, written
-  // out in full so that no loop counter stands between the products.
+  // out in full so that no loop counter stands between the products. The
+  // empty asm tells the compiler that the table is now in memory and must be
+  // read from there: the term loops then take each power as a memory operand
+  // instead of holding forty of them in registers and spilling.
   template <int32_t n>
   void Fill(double x) {
     FillSteps(values, x, std::make_integer_sequence<int32_t, n>{});
+    asm volatile("" : : "r"(values) : "memory");
   }
 
   // x^e; a negative e is one division by the stored positive power.

@@ -11,13 +11,13 @@
 namespace kvt {
 
 template <int SA>
-void WaterCalculator::Region2FillA(double p) {
+KVT_PASS void WaterCalculator::Region2FillA(double p) {
   powerA.Fill<FillCount(region2::I, SA)>(p / P2STAR);
 }
 
 // Residual part from powerA as it stands.
 template <int SA, int SB>
-Gibbs WaterCalculator::Region2ResidualPass(double tau) {
+KVT_PASS Gibbs WaterCalculator::Region2ResidualPass(double tau) {
   using namespace region2;
   powerB.Fill<FillCount(J, SB)>(tau - 0.5);
   const TermSums t = SumTerms<SA, SB, N, I, J>(powerA, powerB);
@@ -25,7 +25,7 @@ Gibbs WaterCalculator::Region2ResidualPass(double tau) {
 }
 
 template <int SA, int SB>
-Gibbs WaterCalculator::Region2Residual(double p, double tau) {
+KVT_PASS Gibbs WaterCalculator::Region2Residual(double p, double tau) {
   Region2FillA<SA>(p);
   return Region2ResidualPass<SA, SB>(tau);
 }
@@ -34,7 +34,7 @@ Gibbs WaterCalculator::Region2Residual(double p, double tau) {
 // derivatives, reading tau^(J0 - S) from `table` refilled with tau. The log
 // and 1/pi terms are the callers'.
 template <int S>
-void WaterCalculator::Region2Ideal(PowerTable& table, double tau, Gibbs& g) {
+KVT_PASS void WaterCalculator::Region2Ideal(PowerTable& table, double tau, Gibbs& g) {
   AddIdealTerms<S, region2::N0, region2::J0>(table, tau, g);
 }
 

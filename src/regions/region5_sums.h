@@ -13,7 +13,7 @@ namespace kvt {
 // pi, pi^2 and, when no derivative by pi is taken (SA = 0), pi^3 into entries
 // 1 to 3 of powerA: a solve in T at fixed p writes them once for all passes.
 template <int SA>
-void WaterCalculator::Region5Pi(double pi) {
+KVT_PASS void WaterCalculator::Region5Pi(double pi) {
   double* a = powerA.values;
   a[1] = a[0] * pi;
   a[2] = a[1] * pi;
@@ -27,7 +27,7 @@ void WaterCalculator::Region5Pi(double pi) {
 // ln(pi), 1/pi and -1/pi^2 of the ideal part that the caller needs. The
 // powers of pi must already stand in powerA (Region5Pi<SA>).
 template <int SA, int SB, int32_t countB>
-Gibbs WaterCalculator::Region5Pass(double tau, Gibbs start) {
+KVT_PASS Gibbs WaterCalculator::Region5Pass(double tau, Gibbs start) {
   using namespace region5;
   powerB.Fill<countB>(tau);
   const PowerTable &a = powerA, &b = powerB;
@@ -56,7 +56,7 @@ Gibbs WaterCalculator::Region5Pass(double tau, Gibbs start) {
 }
 
 template <int SA, int SB, int32_t countB>
-Gibbs WaterCalculator::Region5Sums(double pi, double tau, Gibbs start) {
+KVT_PASS Gibbs WaterCalculator::Region5Sums(double pi, double tau, Gibbs start) {
   Region5Pi<SA>(pi);
   return Region5Pass<SA, SB, countB>(tau, start);
 }
