@@ -27,14 +27,23 @@ double WaterCalculator::T2CPH(double p, double h) {
 }
 
 // The exponents of pi are quarter-integers here, so pi^I needs the real power
-// function; only the powers of B come from a table.
+// function; only the powers of B come from a table. The terms come sorted by
+// I, twelve distinct values in all: pow runs once for each. The exponent is
+// passed through an empty asm so that the compiler calls pow itself: with a
+// constant -1 it would divide instead, which can differ in the last bit.
 double WaterCalculator::T2APS(double p, double s) {
   using namespace region2::tpsa;
   const double pi = p / 1e6;
-  powerB.Fill(s / 2000.0 - 2.0, FillCount(J, 0));
-  double sum = 0;
-  for (size_t i = 0; i < sizeof N / sizeof N[0]; ++i)
-    sum += N[i] * std::pow(pi, I[i]) * powerB.Power(J[i]);
+  powerB.Fill<FillCount(J, 0)>(s / 2000.0 - 2.0);
+  double sum = 0, piI = 0;
+  ForEachIndex<sizeof N / sizeof N[0]>([&](auto k) {
+    if constexpr (k == 0 || I[k] != I[k - 1]) {
+      double e = I[k];
+      asm("" : "+x"(e));
+      piI = std::pow(pi, e);
+    }
+    sum += N[k] * piI * powerB.Power<J[k]>();
+  });
   return sum;
 }
 
