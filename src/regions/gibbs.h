@@ -43,20 +43,24 @@ namespace terms {
 // literal; the products keep the order of the plain loop, so the sums come
 // out bit for bit as that loop gives them. A factor 0 still multiplies: an
 // infinite power times 0 must give the NaN that marks the result invalid.
-template <int SA, int SB, int32_t I, int32_t J>
-KVT_PASS void AddTerm(TermSums& r, double n, const PowerTable& A, const PowerTable& B) {
+template <int SA, int SB, int32_t I, int32_t J, class TA, class TB>
+KVT_PASS void AddTerm(TermSums& r, double n, const TA& A, const TB& B) {
   constexpr double fi = I, fj = J;
-  const double t = n * A.Power<I - SA>() * B.Power<J - SB>();
-  r.s += t * A.Power<SA>() * B.Power<SB>();
-  if constexpr (SA >= 1) r.sA += fi * t * A.Power<SA - 1>() * B.Power<SB>();
-  if constexpr (SA >= 2) r.sAA += fi * (fi - 1) * t * A.Power<SA - 2>() * B.Power<SB>();
-  if constexpr (SB >= 1) r.sB += fj * t * A.Power<SA>() * B.Power<SB - 1>();
-  if constexpr (SB >= 2) r.sBB += fj * (fj - 1) * t * A.Power<SA>() * B.Power<SB - 2>();
-  if constexpr (SA >= 1 && SB >= 1) r.sAB += fi * fj * t * A.Power<SA - 1>() * B.Power<SB - 1>();
+  const double t = n * A.template Power<I - SA>() * B.template Power<J - SB>();
+  r.s += t * A.template Power<SA>() * B.template Power<SB>();
+  if constexpr (SA >= 1) r.sA += fi * t * A.template Power<SA - 1>() * B.template Power<SB>();
+  if constexpr (SA >= 2)
+    r.sAA += fi * (fi - 1) * t * A.template Power<SA - 2>() * B.template Power<SB>();
+  if constexpr (SB >= 1) r.sB += fj * t * A.template Power<SA>() * B.template Power<SB - 1>();
+  if constexpr (SB >= 2)
+    r.sBB += fj * (fj - 1) * t * A.template Power<SA>() * B.template Power<SB - 2>();
+  if constexpr (SA >= 1 && SB >= 1)
+    r.sAB += fi * fj * t * A.template Power<SA - 1>() * B.template Power<SB - 1>();
 }
 
-template <int SA, int SB, const auto& N, const auto& I, const auto& J, size_t... k>
-KVT_PASS TermSums Sum(const PowerTable& A, const PowerTable& B, std::index_sequence<k...>) {
+template <int SA, int SB, const auto& N, const auto& I, const auto& J, class TA, class TB,
+          size_t... k>
+KVT_PASS TermSums Sum(const TA& A, const TB& B, std::index_sequence<k...>) {
   TermSums r;
   (AddTerm<SA, SB, I[k], J[k]>(r, N[k], A, B), ...);  // in table order
   return r;
@@ -80,9 +84,9 @@ KVT_PASS void ForEachIndex(F f) {
 // One pass over the terms n * A^I * B^J of the table (N, I, J), unrolled at
 // compile time. The tables must already hold the powers the shifted
 // exponents reach. The callers use only the sums they need; the others are
-// dropped by the compiler.
-template <int SA, int SB, const auto& N, const auto& I, const auto& J>
-KVT_PASS TermSums SumTerms(const PowerTable& A, const PowerTable& B) {
+// dropped by the compiler. A table is a PowerTable or a FixedPowers.
+template <int SA, int SB, const auto& N, const auto& I, const auto& J, class TA, class TB>
+KVT_PASS TermSums SumTerms(const TA& A, const TB& B) {
   constexpr size_t count = sizeof N / sizeof N[0];
   static_assert(sizeof I / sizeof I[0] == count && sizeof J / sizeof J[0] == count);
   return terms::Sum<SA, SB, N, I, J>(A, B, std::make_index_sequence<count>{});
@@ -108,17 +112,17 @@ struct Gibbs {
 // take the same pattern. The log and 1/pi terms are the callers'.
 namespace terms {
 
-template <int S, int32_t J0>
-KVT_PASS void AddIdeal(Gibbs& g, double n0, const PowerTable& table) {
+template <int S, int32_t J0, class T>
+KVT_PASS void AddIdeal(Gibbs& g, double n0, const T& table) {
   constexpr double j = J0;
-  const double e = n0 * table.Power<J0 - S>();
-  g.g += e * table.Power<S>();
-  g.gt += j * e * table.Power<S - 1>();
-  if constexpr (S >= 2) g.gtt += j * (j - 1) * e * table.Power<S - 2>();
+  const double e = n0 * table.template Power<J0 - S>();
+  g.g += e * table.template Power<S>();
+  g.gt += j * e * table.template Power<S - 1>();
+  if constexpr (S >= 2) g.gtt += j * (j - 1) * e * table.template Power<S - 2>();
 }
 
-template <int S, const auto& N0, const auto& J0, size_t... k>
-KVT_PASS void AddIdealTerms(PowerTable& table, Gibbs& g, std::index_sequence<k...>) {
+template <int S, const auto& N0, const auto& J0, class T, size_t... k>
+KVT_PASS void AddIdealTerms(const T& table, Gibbs& g, std::index_sequence<k...>) {
   (AddIdeal<S, J0[k]>(g, N0[k], table), ...);
 }
 
@@ -131,6 +135,12 @@ KVT_PASS void AddIdealTerms(PowerTable& table, Gibbs& g, std::index_sequence<k..
 template <int S, const auto& N0, const auto& J0>
 KVT_PASS void AddIdealTerms(PowerTable& table, double tau, Gibbs& g) {
   table.Fill<FillCount(J0, S)>(tau);
+  AddIdealTerms<S, N0, J0>(static_cast<const PowerTable&>(table), g);
+}
+
+// The same from a table that already holds the powers of tau.
+template <int S, const auto& N0, const auto& J0, class T>
+KVT_PASS void AddIdealTerms(const T& table, Gibbs& g) {
   terms::AddIdealTerms<S, N0, J0>(table, g, std::make_index_sequence<sizeof N0 / sizeof N0[0]>{});
 }
 

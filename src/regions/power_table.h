@@ -61,4 +61,32 @@ class PowerTable {
   }
 };
 
+// The powers of a reduced variable that is fixed for good, such as the
+// reduced temperature of a bound that a range rule or an area test evaluates
+// at every call: filled once, when the library loads, by the running product
+// of Fill, with the reciprocals that negative exponents read taken once by
+// the division that Power would make. Reads give the same bits as a
+// PowerTable filled with the same x.
+template <int32_t n>
+class FixedPowers {
+ public:
+  explicit FixedPowers(double x) {
+    positive[0] = 1.0;
+    for (int32_t k = 1; k <= n; ++k) positive[k] = x * positive[k - 1];
+    for (int32_t k = 0; k <= n; ++k) reciprocal[k] = 1.0 / positive[k];
+  }
+
+  template <int32_t e>
+  double Power() const {
+    static_assert(e <= n && -e <= n, "power beyond the fill");
+    if constexpr (e == 0) return 1.0;
+    else if constexpr (e > 0) return positive[e];
+    else return reciprocal[-e];
+  }
+
+ private:
+  double positive[n + 1];
+  double reciprocal[n + 1];
+};
+
 }  // namespace kvt
