@@ -16,30 +16,7 @@ constexpr double RHOC = 322.0;
 
 }  // namespace
 
-// Equation 30, the quadratic in beta = (p / 1 MPa)^(1/4) solved for beta.
-double WaterCalculator::PST(double T) const {
-  using saturation::n;
-  const double theta = T + n[9] / (T - n[10]);
-  const double A = theta * theta + n[1] * theta + n[2];
-  const double B = n[3] * theta * theta + n[4] * theta + n[5];
-  const double C = n[6] * theta * theta + n[7] * theta + n[8];
-  const double y = 2 * C / (std::sqrt(B * B - 4 * A * C) - B);
-  const double y2 = y * y;
-  return y2 * y2 * 1000000.0;
-}
-
-// Equation 31, the same quadratic solved for theta.
-double WaterCalculator::TSP(double p) const {
-  using saturation::n;
-  const double beta2 = std::sqrt(p / 1000000.0);
-  const double beta = std::sqrt(beta2);
-  const double E = beta2 + n[3] * beta + n[6];
-  const double F = n[1] * beta2 + n[4] * beta + n[7];
-  const double G = n[2] * beta2 + n[5] * beta + n[8];
-  const double D = 2 * G / (-F - std::sqrt(F * F - 4 * E * G));
-  const double s = n[10] + D;
-  return (s - std::sqrt(s * s - 4 * (n[9] + n[10] * D))) / 2;
-}
+// PST and TSP: region3/saturation_line.h.
 
 // d/dT of (2C / (D - B))^4, D = sqrt(B^2 - 4AC), by the chain rule through
 // theta(T).

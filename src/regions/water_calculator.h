@@ -447,3 +447,6 @@ class WaterCalculator {
 };
 
 }  // namespace kvt
+
+// Defined inline there, with the declarations above in sight.
+#include "region3/saturation_line.h"
