@@ -130,15 +130,24 @@ void Run(const char* name, const char* core, int nargs, const char* const* units
 
 #define O14(o) &o[0], &o[1], &o[2], &o[3], &o[4], &o[5], &o[6], &o[7], &o[8], &o[9], &o[10], \
                &o[11], &o[12], &o[13]
-#define BIT_D1(f, a1, u1) {const char* u[] = {u1}; Run(#f, core, 1, u, [](double* a, double*) { return f(a[0]); });}
-#define BIT_D2(f, a1, u1, a2, u2) {const char* u[] = {u1, u2}; Run(#f, core, 2, u, [](double* a, double*) { return f(a[0], a[1]); });}
-#define BIT_D3(f, a1, u1, a2, u2, a3, u3) {const char* u[] = {u1, u2, u3}; Run(#f, core, 3, u, [](double* a, double*) { return f(a[0], a[1], a[2]); });}
-#define BIT_D4(f, a1, u1, a2, u2, a3, u3, a4, u4) {const char* u[] = {u1, u2, u3, u4}; Run(#f, core, 4, u, [](double* a, double*) { return f(a[0], a[1], a[2], a[3]); });}
-#define BIT_D5(f, a1, u1, a2, u2, a3, u3, a4, u4, a5, u5) {const char* u[] = {u1, u2, u3, u4, u5}; Run(#f, core, 5, u, [](double* a, double*) { return f(a[0], a[1], a[2], a[3], a[4]); });}
-#define BIT_I2(f, a1, u1, a2, u2) {const char* u[] = {u1, u2}; Run(#f, core, 2, u, [](double* a, double*) { return double(f(a[0], a[1])); });}
-#define BIT_P2(f, a1, u1, a2, u2, ...) {const char* u[] = {u1, u2}; Run(#f, core, 2, u, [](double* a, double* o) { return f(a[0], a[1], &o[0], &o[1]); });}
-#define BIT_M1(f, a1, u1) {const char* u[] = {u1}; Run(#f, core, 1, u, [](double* a, double* o) { return f(a[0], O14(o)); });}
-#define BIT_M2(f, a1, u1, a2, u2) {const char* u[] = {u1, u2}; Run(#f, core, 2, u, [](double* a, double* o) { return f(a[0], a[1], O14(o)); });}
+// Each shape names the call on the argument array a (outputs in o) and the
+// units of its arguments.
+#define BIT_RUN(f, n, call, ...)                                                    \
+  {                                                                               \
+    const char* u[] = {__VA_ARGS__};                                              \
+    Run(#f, core, n, u, [](double* a, double* o) { (void)o; return double(call); }); \
+  }
+#define BIT_D1(f, a1, u1) BIT_RUN(f, 1, f(a[0]), u1)
+#define BIT_D2(f, a1, u1, a2, u2) BIT_RUN(f, 2, f(a[0], a[1]), u1, u2)
+#define BIT_D3(f, a1, u1, a2, u2, a3, u3) BIT_RUN(f, 3, f(a[0], a[1], a[2]), u1, u2, u3)
+#define BIT_D4(f, a1, u1, a2, u2, a3, u3, a4, u4) \
+  BIT_RUN(f, 4, f(a[0], a[1], a[2], a[3]), u1, u2, u3, u4)
+#define BIT_D5(f, a1, u1, a2, u2, a3, u3, a4, u4, a5, u5) \
+  BIT_RUN(f, 5, f(a[0], a[1], a[2], a[3], a[4]), u1, u2, u3, u4, u5)
+#define BIT_I2(f, a1, u1, a2, u2) BIT_RUN(f, 2, f(a[0], a[1]), u1, u2)
+#define BIT_P2(f, a1, u1, a2, u2, ...) BIT_RUN(f, 2, f(a[0], a[1], &o[0], &o[1]), u1, u2)
+#define BIT_M1(f, a1, u1) BIT_RUN(f, 1, f(a[0], O14(o)), u1)
+#define BIT_M2(f, a1, u1, a2, u2) BIT_RUN(f, 2, f(a[0], a[1], O14(o)), u1, u2)
 #define BIT_SKIP(...)
 #define BIT_D0 BIT_SKIP
 #define BIT_D12 BIT_SKIP

@@ -24,11 +24,13 @@ double WaterCalculator::HB13S(double s) {
 }
 
 double WaterCalculator::TB23HS(double h, double s) {
-  return 900.0 * BackwardSum<TB23N, TB23I, TB23J>(powerA, h / 3000000.0 - 0.727, powerB, s / 5300.0 - 0.864);
+  return 900.0 * BackwardSum<TB23N, TB23I, TB23J>(powerA, h / 3000000.0 - 0.727,
+                                                  powerB, s / 5300.0 - 0.864);
 }
 
 double WaterCalculator::PB23HS(double h, double s) {
-  return 100000000.0 * BackwardSum<PB23N, PB23I, PB23J>(powerA, h / 3000000.0 - 0.709, powerB, s / 5300.0 - 0.824);
+  return 100000000.0 * BackwardSum<PB23N, PB23I, PB23J>(powerA, h / 3000000.0 - 0.709,
+                                                        powerB, s / 5300.0 - 0.824);
 }
 
 }  // namespace kvt

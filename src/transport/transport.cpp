@@ -43,7 +43,8 @@ double WaterCalculator::DYNVISRT(double rho, double T) {
   const double t = T / TSTARMU, r = rho / RHOSTARMU;
   const double t2 = t * t, t3 = t2 * t;
   const double mu0 = std::sqrt(t) / (MU0H[0] + MU0H[1] / t + MU0H[2] / t2 + MU0H[3] / t3);
-  const double e = BackwardSum<MU1H, MU1I, MU1J>(powerA, 1.0 / t - 1.0, powerB, r - 1.0);
+  const double e =
+      BackwardSum<MU1H, MU1I, MU1J>(powerA, 1.0 / t - 1.0, powerB, r - 1.0);
   return MUSTAR * mu0 * std::exp(r * e);
 }
 
