@@ -37,7 +37,10 @@ if(TARGET kvtcalc)
   install(TARGETS kvtcalc RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
 endif()
 
-# ---- Debian packages ----
+# ---- Debian packages, made only by this project's own build ----
+if(NOT PROJECT_IS_TOP_LEVEL)
+  return()
+endif()
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME kvtcore)
 set(CPACK_PACKAGE_VENDOR "kvtcore")
