@@ -5,7 +5,7 @@ man pages kvtcalc.1 and kvtcore.3.
 Every function's entry comes from its catalogue row (tools/catalogue.py) and
 from `kvtcalc help NAME`, which prints the range from the rules' own constants
 (kvtRangeText), the error codes the function gave when probed, and an example
-that the library computes now. The guides are docs/guides/*.md; their
+that the library computes now. The guides are docs/install.md and docs/guides/*.md; their
 {{placeholders}} are tables made here, some of them measured on the library.
 
     reference.py --kvtcalc build/kvtcalc --lib build/libkvtcore.so --out DIR
@@ -391,7 +391,8 @@ def write_reference(args):
     tables = {"error_table": error_table(lib), "range_table": range_table(lib, rows),
               "ph_bounds": ph_bounds(lib), "limits_table": limits_table(lib),
               "formulation_table": formulation_table(lib)}
-    guides = [open(f, encoding="utf-8").read() for f in sorted(glob.glob(os.path.join(HERE, "guides", "*.md")))]
+    files = [os.path.join(HERE, "install.md")] + sorted(glob.glob(os.path.join(HERE, "guides", "*.md")))
+    guides = [open(f, encoding="utf-8").read() for f in files]
     guide_blocks = [blocks(g) for g in guides]
     group_of = groups(header_text, rows)
     order = []

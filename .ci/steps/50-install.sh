@@ -29,6 +29,15 @@ PKG_CONFIG_PATH="$work/prefix/lib/pkgconfig" \
 LD_LIBRARY_PATH="$work/prefix/lib" "$work/by-pc"
 LD_LIBRARY_PATH="$work/prefix/lib" "$work/prefix/bin/kvtcalc" --version
 
+echo "== a batch of 10^6 rows on every core"
+awk 'BEGIN { for (i = 0; i < 1000000; i++) printf "%.6g,%.6g\n", 1e5 + (i % 1000) * 1e4, 300 + i % 600 }' > "$work/big.csv"
+started=$(date +%s%N)
+LD_LIBRARY_PATH="$work/prefix/lib" "$work/prefix/bin/kvtcalc" batch HPT "$work/big.csv" > "$work/big.out"
+ms=$(( ($(date +%s%N) - started) / 1000000 ))
+echo "10^6 rows of HPT in $ms ms"
+test "$(wc -l < "$work/big.out")" -eq 1000001
+test "$ms" -lt 60000
+
 echo "== add_subdirectory configures without GoogleTest and Google Benchmark"
 cmake -S tests/consumers/subdir -B "$work/by-subdir" -DKVT_SOURCE="$src" -DGTest_DIR=/nonexistent \
   -Dbenchmark_DIR=/nonexistent -DCMAKE_DISABLE_FIND_PACKAGE_GTest=ON \

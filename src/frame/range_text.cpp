@@ -1,7 +1,9 @@
 // kvtRangeText: the valid range of each range rule, in words and numbers.
 // The texts are the Text() of the rules in frame/ranges.h, written from the
 // very constants the checks compare with, so they cannot drift apart.
+#include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <string>
 
@@ -11,8 +13,13 @@
 namespace kvt {
 
 std::string BoundText(double value) {
-  // The shortest form that reads back as the same double.
-  char text[32];
+  // Whole numbers in full (100000000, not 1e+08); others in the shortest
+  // form that reads back as the same double.
+  char text[40];
+  if (value == static_cast<double>(static_cast<long long>(value)) && std::fabs(value) < 1e15) {
+    std::snprintf(text, sizeof text, "%.0f", value);
+    return text;
+  }
   for (int digits = 1; digits <= 17; ++digits) {
     std::snprintf(text, sizeof text, "%.*g", digits, value);
     if (std::strtod(text, nullptr) == value) break;
