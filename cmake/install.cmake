@@ -34,6 +34,8 @@ install(FILES ${PROJECT_BINARY_DIR}/kvtcore.pc
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dev)
 
 if(TARGET kvtcalc)
+  # Installed under any prefix, the calculator finds the library beside it.
+  set_target_properties(kvtcalc PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
   install(TARGETS kvtcalc RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
 endif()
 

@@ -1,5 +1,6 @@
 #include "kvtcalc/arrays.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
@@ -13,10 +14,10 @@ namespace kvtcalc {
 namespace {
 
 // The points of a run: one column of values per argument that the array
-// interface takes, and the gas text of a text-gas row.
+// interface takes, and for a text-gas row the gas text of each point.
 struct Points {
   std::vector<std::vector<double>> columns;
-  std::string gas;
+  std::vector<std::string> gases;
   size_t size = 0;
 };
 
@@ -27,20 +28,32 @@ struct Results {
 
 using EnginePtr = std::unique_ptr<kvtEngine, void (*)(kvtEngine*)>;
 
-// Runs the row over the points on every core. False if the row cannot be
-// evaluated over arrays (texts, settings, the gas registry).
+// Runs the row over the points on every core, one call for each run of
+// points with the same gas text. False if the row cannot be evaluated over
+// arrays (texts, settings, the gas registry).
 bool Evaluate(const kvtFunctionInfo* fn, const Points& points, Results& r) {
   EnginePtr engine(kvtEngineNew(), kvtEngineFree);
-  std::vector<const double*> args;
-  for (const auto& c : points.columns) args.push_back(c.data());
   r.outputs.assign(fn->outputs, std::vector<double>(points.size));
   r.codes.assign(points.size, 0);
-  std::vector<double*> outs;
-  for (auto& o : r.outputs) outs.push_back(o.data());
-  const int64_t failed =
-      kvtEvalRow(engine.get(), fn, fn->gas == 2 ? points.gas.c_str() : nullptr, points.size,
-                 args.data(), nullptr, outs.data(), r.codes.data(), 0);
-  return failed >= 0;
+  size_t first = 0;
+  do {
+    size_t last = points.size;
+    const char* gas = nullptr;
+    if (fn->gas == 2) {
+      gas = first < points.size ? points.gases[first].c_str() : "";
+      for (last = first + 1; last < points.size && points.gases[last] == gas;) ++last;
+      last = std::min(last, points.size);
+    }
+    std::vector<const double*> args;
+    for (const auto& c : points.columns) args.push_back(c.data() + first);
+    std::vector<double*> outs;
+    for (auto& o : r.outputs) outs.push_back(o.data() + first);
+    if (kvtEvalRow(engine.get(), fn, gas, last - first, args.data(), nullptr, outs.data(),
+                   r.codes.data() + first, 0) < 0)
+      return false;
+    first = last;
+  } while (first < points.size);
+  return true;
 }
 
 std::string Column(const char* name, const std::string& si, UnitSystem units) {
@@ -181,7 +194,6 @@ int Table(const std::string& name, const std::vector<std::string>& specs, const 
   }
   // The first sweep runs slowest, as in reading order.
   Points points;
-  points.gas = gas;
   points.size = 1;
   for (int i = 0; i < fn->inputs; ++i)
     if (!IsGasText(fn, i)) points.size *= axes[i].values.size();
@@ -194,6 +206,7 @@ int Table(const std::string& name, const std::vector<std::string>& specs, const 
     for (size_t k = 0; k < points.size; ++k) column[k] = v[(k / inner) % v.size()];
     points.columns.push_back(std::move(column));
   }
+  points.gases.assign(points.size, gas);
   Results r;
   if (!Evaluate(fn, points, r)) return NotEvaluable(fn);
   std::string header;
@@ -244,11 +257,7 @@ int Batch(const std::string& name, const std::string& file, const ArrayOptions& 
               std::to_string(fn->inputs);
     }
     for (int i = 0; error.empty() && i < fn->inputs; ++i) {
-      if (IsGasText(fn, i)) {
-        if (points.size == 0 && points.gas.empty()) points.gas = fields[i];
-        else if (fields[i] != points.gas) error = "a batch takes one gas text for all rows";
-        continue;
-      }
+      if (IsGasText(fn, i)) continue;
       double v;
       if (ReadQuantity(fields[i], fn->inputUnits[i], v, error)) values.push_back(v);
     }
@@ -261,6 +270,7 @@ int Batch(const std::string& name, const std::string& file, const ArrayOptions& 
       values.assign(points.columns.size(), NAN);
     }
     for (size_t i = 0; i < values.size(); ++i) points.columns[i].push_back(values[i]);
+    if (fn->gas == 2) points.gases.push_back(error.empty() ? fields[0] : "");
     lines.push_back(line);
     bad.push_back(!error.empty());
     ++points.size;
