@@ -118,6 +118,7 @@ def limits_table(lib):
     def zone(points, wet=False):
         dt = dp = 0.0
         failed = 0
+        at = ""
         for a, b in points:
             if wet:
                 t, x = a, b
@@ -132,8 +133,10 @@ def limits_table(lib):
             if r is None:
                 failed += 1
                 continue
+            if abs(r[1] - t) > dt:
+                at = f"T {t:.6g} K, " + (f"x {b:g}" if wet else f"p {p:.4g} Pa")
             dp, dt = max(dp, abs(r[0] - p) / p), max(dt, abs(r[1] - t))
-        return len(points), dp, dt, failed
+        return len(points), dp, dt, failed, at
 
     zones = []
     base = [(p, t) for p in (1e5, 1e6, 5e6) for t in (300, 350)] + \
@@ -153,11 +156,12 @@ def limits_table(lib):
     zones.append(("just above 1073.15 K, p 0.1-10 MPa", zone(hot)))
     wet_low = [(t, x) for t in spread(300, 620, 9) for x in (0.1, 0.5, 0.9, 0.99)]
     zones.append(("wet steam below 623.15 K, x 0.1-0.99", zone(wet_low, wet=True)))
-    wet = [(t, x) for t in spread(623.15, 646, 8) for x in (0.5, 0.8, 0.9, 0.95, 0.99)]
-    zones.append(("wet steam above 623.15 K, x 0.5-0.99", zone(wet, wet=True)))
-    table = [["Zone", "Points", "Largest |dp|/p", "Largest |dT| [K]", "Failed"]]
-    for name, (n, dp, dt, failed) in zones:
-        table.append([name, str(n), num(dp, 2), num(dt, 2), str(failed)])
+    for xs in ((0.1, 0.3, 0.5, 0.7), (0.8, 0.85, 0.9), (0.95, 0.98, 0.99, 0.999)):
+        wet = [(t, x) for t in spread(623.15, 646, 10) for x in xs]
+        zones.append((f"wet steam above 623.15 K, x {xs[0]}-{xs[-1]}", zone(wet, wet=True)))
+    table = [["Zone", "Points", "Largest |dp|/p", "Largest |dT| [K]", "Largest |dT| at", "Failed"]]
+    for name, (n, dp, dt, failed, at) in zones:
+        table.append([name, str(n), num(dp, 2), num(dt, 2), at, str(failed)])
     return table
 
 
