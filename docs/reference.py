@@ -37,7 +37,7 @@ def kvtcalc_help(kvtcalc, name):
     for i, line in enumerate(lines):
         if line.startswith("range:"):
             info["range"] = re.sub(r" \(rule \w+\)$", "", line[6:].strip())
-        elif re.match(r"^  +\d+  ", line) and "example" not in info:
+        elif re.match(r"^  +\d+  ", line) and info["example"] is None:
             code, meaning = line.strip().split("  ", 1)
             info["codes"].append((int(code), meaning.strip()))
         elif line.startswith("example:"):
@@ -408,7 +408,8 @@ def write_reference(args):
         f'<a href="#{re.sub(r"[^a-z0-9]+", "-", b[0][1].lower()).strip("-")}">{inline_html(b[0][1])}</a>'
         for b in guide_blocks] + ['<h2>Functions</h2>'] + [
         f'<a href="#group-{i}">{html.escape(g)}</a>' for i, g in enumerate(order)]
-    body = [blocks_html(b, tables) for b in guide_blocks]
+    body = [f'<section class="guide" id="guide-{re.sub(r"[^a-z0-9]+", "-", b[0][1].lower()).strip("-")}">'
+            f"{blocks_html(b, tables)}</section>" for b in guide_blocks]
     body.append('<h1 id="functions">Functions</h1>')
     for i, g in enumerate(order):
         members = [r for r in rows if group_of[r.name] == g]
@@ -448,6 +449,15 @@ def check_reference(args):
             problems.append(f"{r.name}: no entry")
         elif html.escape(prototype(r)) not in page:
             problems.append(f"{r.name}: prototype differs")
+    for r in rows[::25]:  # a sample: the codes and range shown are kvtcalc's
+        info = kvtcalc_help(args.kvtcalc, r.name)
+        entry = page[page.find(f'id="{r.name}"'):]
+        entry = entry[:entry.find("</section>")]
+        for code, meaning in info["codes"]:
+            if f"<li><b>{code}</b> {html.escape(meaning)}</li>" not in entry:
+                problems.append(f"{r.name}: code {code} missing")
+        if html.escape(info["range"]) not in entry:
+            problems.append(f"{r.name}: range differs")
     examples = re.findall(r'Example: <code>kvtcalc (.*?)</code> gives (.*?)</p>', page)
     for call, values in examples:
         shown = re.findall(r'<code class="value">(.*?)</code>', values)

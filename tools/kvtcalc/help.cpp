@@ -119,6 +119,7 @@ std::string Number(double v, int digits = 10) {
 
 // An argument in the shortest form that reads back as the same double.
 std::string Argument(double v) {
+  if (v == static_cast<double>(static_cast<long long>(v)) && std::fabs(v) < 1e15) return Number(v, 15);
   for (int digits = 1; digits < 17; ++digits)
     if (std::strtod(Number(v, digits).c_str(), nullptr) == v) return Number(v, digits);
   return Number(v, 17);
