@@ -145,11 +145,13 @@ int main(int argc, char** argv) {
   }
   if (first == "--list" || first == "-l") return List(a.size() > 1 ? a[1].c_str() : nullptr);
   if (first == "--help" || first == "-h") return Usage(stdout);
-  if (first == "help" && a.size() == 2) return Help(a[1]);
-  if (first == "table" && a.size() >= 3)
-    return Table(a[1], std::vector<std::string>(a.begin() + 2, a.end()), arrays);
-  if (first == "batch" && (a.size() == 2 || a.size() == 3))
-    return Batch(a[1], a.size() == 3 ? a[2] : "", arrays);
+  if (first == "help") return a.size() == 2 ? Help(a[1]) : Usage(stderr);
+  if (first == "table")
+    return a.size() >= 2 ? Table(a[1], std::vector<std::string>(a.begin() + 2, a.end()), arrays)
+                         : Usage(stderr);
+  if (first == "batch")
+    return a.size() == 2 || a.size() == 3 ? Batch(a[1], a.size() == 3 ? a[2] : "", arrays)
+                                          : Usage(stderr);
   const Row* row = Find(first);
   if (!row) {
     std::fprintf(stderr, "kvtcalc: no export named %s (try kvtcalc --list)\n", first.c_str());
