@@ -6,7 +6,7 @@
 need cmake g++ make pkg-config dpkg-dev file python3 python3-iapws
 src=$PWD
 work=$(mktemp -d /tmp/kvt-install.XXXXXX)
-trap 'rm -rf "$work"; dpkg -r kvtcore-tools libkvtcore-dev libkvtcore6 >/dev/null 2>&1 || true' EXIT
+trap 'rm -rf "$work"; dpkg -P kvtcore-tools libkvtcore-dev libkvtcore6 >/dev/null 2>&1 || true' EXIT
 build=$src/build/install
 cmake -S . -B "$build" -DCMAKE_BUILD_TYPE=Release -DKVT_BUILD_TESTS=OFF -DKVT_BUILD_BENCH=OFF \
   -DKVT_PYTHON3=/usr/bin/python3
@@ -53,5 +53,5 @@ cmake --build "$work/by-deb"
 cc tests/consumers/steam.c $(pkg-config --cflags --libs kvtcore) -o "$work/by-deb-pc" && "$work/by-deb-pc"
 kvtcalc HPT 30bar 300C
 man -w kvtcalc >/dev/null 2>&1 || test -e /usr/share/man/man1/kvtcalc.1
-dpkg -r kvtcore-tools libkvtcore-dev libkvtcore6
+dpkg -P kvtcore-tools libkvtcore-dev libkvtcore6
 test ! -e /usr/include/kvtcore.h
