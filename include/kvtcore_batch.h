@@ -103,6 +103,12 @@ KVT_BATCH_API const kvtFunctionInfo* kvtFunctionFind(const char* name);
    the function"); "unknown error" for a code the library never gives. */
 KVT_BATCH_API const char* kvtErrorMessage(int32_t code);
 
+/* The valid range of a range rule (kvtFunctionInfo.rule: "PT", "PH", "GT",
+   "None", ...) in words and numbers, from the constants the check itself
+   compares with: "T from 273.15999999999 to 2273.15 K, p from ...". Null for
+   an unknown rule. The text is static and needs no freeing. */
+KVT_BATCH_API const char* kvtRangeText(const char* rule);
+
 /* ---- Evaluation over arrays ---- */
 
 /* Evaluates the catalogue function `name` (with or without the kvt prefix,

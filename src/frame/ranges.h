@@ -3,7 +3,12 @@
 // call asks it only while checkRangeMode is nonzero. Every comparison is
 // written so that a NaN is not caught and runs on to the finiteness test.
 // Arguments a rule does not name (output slots and the like) are ignored.
+//
+// Each rule also has Text(), which spells its bounds out in words and numbers
+// from the same constants (for kvtRangeText, kvtcalc and the reference).
 #pragma once
+
+#include <string>
 
 #include "frame/engine.h"
 #include "regions/constants.h"
@@ -29,7 +34,20 @@ constexpr double kGasTMax = 2500.0;             // K
 // their powers formed at load (H1PTLOW, H2PTMID and their entropy twins).
 static_assert(kTMin == TLOW && kTSplit == TMID, "bounds of the fixed-temperature cores");
 
+// A bound as it is written in the range texts: shortest form, all digits kept.
+std::string BoundText(double value);
+
 namespace rules {
+
+inline std::string PTText() {
+  return "T from " + BoundText(kTMin) + " to " + BoundText(kTMax) + " K, p from " +
+         BoundText(kPMin) + " to " + BoundText(kPMax) + " Pa; above T " + BoundText(kTSplit) +
+         " K, p at most " + BoundText(kPHighT) + " Pa";
+}
+inline std::string DrynessText() { return "x from 0 to 1"; }
+inline std::string Pressure2Text() {
+  return "p2 from " + BoundText(kPMin) + " to " + BoundText(kPMax) + " Pa";
+}
 
 // The tests of the p,T rule, split where other rules insert their own.
 inline bool PTBase(double p, double T) {
@@ -42,12 +60,18 @@ inline bool Dryness(double x) { return x < 0 || x > 1; }
 struct T {
   template <class... X>
   static bool Fails(Engine&, double t, X&&...) { return t > kTCrit || t < kTMin; }
+  static std::string Text() {
+    return "T from " + BoundText(kTMin) + " to " + BoundText(kTCrit) + " K";
+  }
 };
 
 // kvtTSP.
 struct P {
   template <class... X>
   static bool Fails(Engine&, double p, X&&...) { return p > kPCrit || p < kPMin; }
+  static std::string Text() {
+    return "p from " + BoundText(kPMin) + " to " + BoundText(kPCrit) + " Pa";
+  }
 };
 
 // Water by p, T.
@@ -56,6 +80,7 @@ struct PT {
   static bool Fails(Engine&, double p, double t, X&&...) {
     return PTBase(p, t) || HighT(p, t);
   }
+  static std::string Text() { return PTText(); }
 };
 
 // Water by p, T, x.
@@ -64,6 +89,7 @@ struct PTX {
   static bool Fails(Engine&, double p, double t, double x, X&&...) {
     return PTBase(p, t) || Dryness(x) || HighT(p, t);
   }
+  static std::string Text() { return PTText() + "; " + DrynessText(); }
 };
 
 // Wet steam by T, x.
@@ -72,24 +98,33 @@ struct TX {
   static bool Fails(Engine& e, double t, double x, X&&...) {
     return T::Fails(e, t) || Dryness(x);
   }
+  static std::string Text() { return T::Text() + "; " + DrynessText(); }
 };
 
 // Dryness from T and a property: only T is tested.
 struct XST {
   template <class... X>
   static bool Fails(Engine& e, double t, X&&...) { return T::Fails(e, t); }
+  static std::string Text() { return T::Text() + "; the property is not tested"; }
 };
 
 // No comparison in any mode.
 struct None {
   template <class... X>
   static bool Fails(Engine&, X&&...) { return false; }
+  static std::string Text() {
+    return "no range check: the equation answers wherever it gives a finite number";
+  }
 };
 
 // Frame markers for the settings functions: Getter clears the error code and
 // reads with no guarded region; Plain leaves the error code as it stands.
-struct Getter {};
-struct Plain {};
+struct Getter {
+  static std::string Text() { return "no arguments to check"; }
+};
+struct Plain {
+  static std::string Text() { return "no range check; the error code is left as it stands"; }
+};
 
 // Water by p, h. The margin F = 1 + tolerance widens the enthalpy bounds,
 // which are the region 1 value at the lowest temperature and the region 5 (or,
@@ -104,6 +139,13 @@ struct PH {
     const double hmax = p <= kPHighT ? e.water.H5PT(p, kTMax) : e.water.H2PTMID(p);
     return h > F * hmax;
   }
+  static std::string Text() {
+    return "p from " + BoundText(kPMin) + " to " + BoundText(kPMax) +
+           " Pa; h from H1PT(p, " + BoundText(kTMin) + " K) to H5PT(p, " + BoundText(kTMax) +
+           " K) for p up to " + BoundText(kPHighT) + " Pa, to H2PT(p, " + BoundText(kTSplit) +
+           " K) above, widened by the factor 1 + tolerance (h itself is multiplied on the "
+           "lower side)";
+  }
 };
 
 // Water by p, s: as by p, h, but the lower side takes care of the sign of s.
@@ -117,6 +159,12 @@ struct PS {
     const double smax = p <= kPHighT ? e.water.S5PT(p, kTMax) : e.water.S2PTMID(p);
     return s > F * smax;
   }
+  static std::string Text() {
+    return "p from " + BoundText(kPMin) + " to " + BoundText(kPMax) +
+           " Pa; s from S1PT(p, " + BoundText(kTMin) + " K) to S5PT(p, " + BoundText(kTMax) +
+           " K) for p up to " + BoundText(kPHighT) + " Pa, to S2PT(p, " + BoundText(kTSplit) +
+           " K) above, widened by the factor 1 + tolerance";
+  }
 };
 
 inline bool Pressure(double p) { return p < kPMin || p > kPMax; }
@@ -127,6 +175,9 @@ struct EXP {
   static bool Fails(Engine&, double p, double t, double p2, X&&...) {
     return PTBase(p, t) || Pressure(p2) || HighT(p, t);
   }
+  static std::string Text() {
+    return PTText() + "; " + Pressure2Text() + "; the efficiency is not tested";
+  }
 };
 
 // Expansion from (p, T, x) to p2 with an efficiency.
@@ -134,6 +185,10 @@ struct EXPX {
   template <class... X>
   static bool Fails(Engine&, double p, double t, double x, double p2, X&&...) {
     return PTBase(p, t) || Pressure(p2) || Dryness(x) || HighT(p, t);
+  }
+  static std::string Text() {
+    return PTText() + "; " + Pressure2Text() + "; " + DrynessText() +
+           "; the efficiency is not tested";
   }
 };
 
@@ -145,6 +200,10 @@ struct GT {
   static bool Fails(Engine&, G, double t) { return GasT(t); }
   template <class G>
   static bool Fails(Engine&, G, double, double t) { return GasT(t); }
+  static std::string Text() {
+    return "T from " + BoundText(kGasTMin) + " to " + BoundText(kGasTMax) +
+           " K; p is not tested";
+  }
 };
 
 // The pressure test of the metastable family. It reads "p below the lowest
@@ -168,6 +227,11 @@ struct MS {
     if (t > Tb) return true;
     const double y = e.water.XSTH(Tb, e.water.HMSPT(p, t));
     return 0.95 * F > y;
+  }
+  static std::string Text() {
+    return "p any number but NaN; T at most TSP(p) (1 + tolerance); and the state above "
+           "the 5 % moisture line: the dryness of HMSPT(p, T) on the saturation line at that "
+           "temperature at least 0.95 (1 + tolerance)";
   }
 };
 

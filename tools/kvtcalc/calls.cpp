@@ -1,11 +1,6 @@
-// kvtcalc: calls any export of the library from the command line.
-//
-//   kvtcalc H1PT 3e6 300        enthalpy of water at 3 MPa and 300 K
-//   kvtcalc --list              every export with its arguments and units
-//   kvtcalc --exact H1PT 3e6 300   all 17 digits, to compare two builds
-//
-// The export is named with or without its "kvt" prefix, in any case. The
-// lookup, the argument count and the output names all come from the
+// The calculator's view of the catalogue: every export as a row that can be
+// called with the arguments typed on the command line. The lookup, the
+// argument count, names and units and the output names all come from the
 // catalogue in kvtcore.h, so the calculator grows with it.
 #include <cctype>
 #include <cerrno>
@@ -18,33 +13,15 @@
 #include <utility>
 #include <vector>
 
+#include "kvtcalc/calls.h"
 #include "kvtcore.h"
 
+namespace kvtcalc {
 namespace {
 
 const char* const kManyNames[14] = {"v",       "u",       "s",       "h",      "cv",
                                     "w",       "dv/dp_T", "du/dp_T", "ds/dp_T", "dh/dp_T",
                                     "dv/dT_p", "du/dT_p", "ds/dT_p", "cp"};
-
-struct Output {
-  std::vector<std::string> labels;
-  std::vector<double> values;
-};
-
-struct Row {
-  int ordinal;
-  const char* name;
-  std::string doc;
-  int inputs;  // number of arguments the caller types
-  // Calls the export with the typed arguments; returns false on a parse error.
-  bool (*call)(const std::vector<std::string>& args, std::string& text, Output& out,
-               bool& failed);
-};
-
-std::string Upper(std::string s) {
-  for (char& c : s) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-  return s;
-}
 
 bool ParseDouble(const std::string& s, double& v) {
   char* end = nullptr;
@@ -187,85 +164,40 @@ template <class R, class... P> constexpr int InputsOf(R (KVT_CALL*)(P...)) {
   return CountInputs<P...>();
 }
 
+std::vector<Argument> Inputs(const char* args, int inputs) {
+  const std::vector<std::string> items = ArgumentList(args);
+  std::vector<Argument> r;
+  for (size_t i = 0; i + 1 < items.size() && r.size() < static_cast<size_t>(inputs); i += 2)
+    r.push_back({items[i], items[i + 1]});
+  return r;
+}
+
 #define KVT_ROW(ord, name, shape, rule, core, args, result)                                \
-  {ord, #name, Describe(#args, result, InputsOf(&name)), InputsOf(&name),                  \
+  {ord, #name, #rule, Describe(#args, result, InputsOf(&name)), InputsOf(&name),          \
+   Inputs(#args, InputsOf(&name)), result,                                                \
    [](const std::vector<std::string>& a, std::string& t, Output& o, bool& f) {             \
      return CallWith(&name, #args, a, t, o, f);                                            \
    }},
 
-const std::vector<Row> kRows = {KVT_CATALOGUE(KVT_ROW)};
+}  // namespace
+
+std::string Upper(std::string s) {
+  for (char& c : s) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+  return s;
+}
+
+const std::vector<Row>& Rows() {
+  static const std::vector<Row> rows = {KVT_CATALOGUE(KVT_ROW)};
+  return rows;
+}
 
 const Row* Find(const std::string& wanted) {
   const std::string w = Upper(wanted);
-  for (const Row& row : kRows) {
+  for (const Row& row : Rows()) {
     const std::string name = Upper(row.name);
     if (name == w || name == "KVT" + w) return &row;
   }
   return nullptr;
 }
 
-int Usage() {
-  std::fprintf(stderr,
-               "usage: kvtcalc NAME [ARG ...]   call an export (name with or without kvt)\n"
-               "       kvtcalc --list           list every export with its arguments\n"
-               "       kvtcalc --exact NAME ... print numbers with all 17 digits\n");
-  return 2;
-}
-
-}  // namespace
-
-int main(int argc, char** argv) {
-  const char* format = "%#.10g";
-  if (argc >= 2 && std::strcmp(argv[1], "--exact") == 0) {
-    format = "%.17g";
-    --argc;
-    ++argv;
-  }
-  if (argc < 2) return Usage();
-  const std::string first = argv[1];
-  if (first == "--list" || first == "-l") {
-    for (const Row& row : kRows) std::printf("%-34s %3d  %s\n", row.name, row.ordinal, row.doc.c_str());
-    return 0;
-  }
-  if (first == "--help" || first == "-h") {
-    Usage();
-    return 0;
-  }
-  const Row* row = Find(first);
-  if (!row) {
-    std::fprintf(stderr, "kvtcalc: no export named %s (try kvtcalc --list)\n", argv[1]);
-    return 2;
-  }
-  std::vector<std::string> args(argv + 2, argv + argc);
-  if (static_cast<int>(args.size()) != row->inputs) {
-    std::fprintf(stderr, "kvtcalc: %s takes %d argument(s): %s\n", row->name, row->inputs,
-                 row->doc.c_str());
-    return 2;
-  }
-  std::string text;
-  Output out;
-  bool failed = false;
-  if (!row->call(args, text, out, failed)) {
-    std::fprintf(stderr, "kvtcalc: arguments of %s must be numbers: %s\n", row->name, row->doc.c_str());
-    return 2;
-  }
-  if (failed) {
-    const int code = kvtGETLASTERROR();
-    std::fprintf(stderr, "kvtcalc: %s failed with error %d: %s\n", row->name, code,
-                 kvtGETLASTERRORDESCRIPTION());
-    return 1;
-  }
-  if (out.values.empty()) {
-    std::printf("%s\n", text.c_str());
-  } else if (out.values.size() == 1) {
-    std::printf(format, out.values[0]);
-    std::printf("\n");
-  } else {
-    for (size_t i = 0; i < out.values.size(); ++i) {
-      std::printf("%-10s ", out.labels[i].c_str());
-      std::printf(format, out.values[i]);
-      std::printf("\n");
-    }
-  }
-  return 0;
-}
+}  // namespace kvtcalc
