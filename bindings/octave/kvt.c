@@ -109,7 +109,9 @@ static void Evaluate(const char* name, int nlhs, mxArray* plhs[], int nrhs, cons
   const kvtFunctionInfo* f = kvtFunctionFind(name);
   if (f == NULL) mexErrMsgIdAndTxt("kvt:unknown", "kvt: no function '%s'; kvt('list') names them", name);
   if (!f->evaluable && f->outputs == 1)
-    mexErrMsgIdAndTxt("kvt:unknown", "kvt: %s is not evaluated over arrays (kvt('set', ...) for settings)", f->name);
+    mexErrMsgIdAndTxt("kvt:unknown",
+                      "kvt: %s changes settings or gases or gives a text: not evaluated over arrays "
+                      "(kvt('set', ...), kvt('newgas', ...))", f->name);
   if (nrhs - 1 != f->inputs || f->inputs > 16)
     mexErrMsgIdAndTxt("kvt:argument", "kvt: %s takes %d arguments", f->name + 3, (int)f->inputs);
   if (nlhs > f->outputs + 1)
