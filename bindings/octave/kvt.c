@@ -149,20 +149,26 @@ static void Evaluate(const char* name, int nlhs, mxArray* plhs[], int nrhs, cons
   const mwSize* dims = shape ? mxGetDimensions(shape) : one;
   const size_t n = shape ? mxGetNumberOfElements(shape) : 1;
 
+  /* Every output, then the codes; plhs has room for the ones asked for. */
+  mxArray* results[15];
   double* outs[14];
   for (int j = 0; j < f->outputs; ++j) {
-    plhs[j] = mxCreateNumericArray(ndim, dims, mxDOUBLE_CLASS, mxREAL);
-    outs[j] = mxGetPr(plhs[j]);
+    results[j] = mxCreateNumericArray(ndim, dims, mxDOUBLE_CLASS, mxREAL);
+    outs[j] = mxGetPr(results[j]);
   }
-  mxArray* codes = mxCreateNumericArray(ndim, dims, mxINT32_CLASS, mxREAL);
-  int64_t failed = kvtEvalRow(Engine(), f, gas, n, args, strides, outs, (int32_t*)mxGetData(codes), threads);
+  results[f->outputs] = mxCreateNumericArray(ndim, dims, mxINT32_CLASS, mxREAL);
+  int64_t failed = kvtEvalRow(Engine(), f, gas, n, args, strides, outs,
+                              (int32_t*)mxGetData(results[f->outputs]), threads);
   if (gas != NULL) mxFree(gas);
-  if (failed < 0) mexErrMsgIdAndTxt("kvt:unknown", "kvt: %s cannot be evaluated", f->name + 3);
-  if (nlhs == f->outputs + 1) {
-    plhs[f->outputs] = codes;
-  } else {
-    mxDestroyArray(codes);
+  const int given = failed < 0 ? 0 : nlhs > 1 ? nlhs : 1;
+  for (int j = 0; j <= f->outputs; ++j) {
+    if (j < given) {
+      plhs[j] = results[j];
+    } else {
+      mxDestroyArray(results[j]);
+    }
   }
+  if (failed < 0) mexErrMsgIdAndTxt("kvt:unknown", "kvt: %s cannot be evaluated", f->name + 3);
 }
 
 void mexFunction(int nlhs, mxArray* plhs[], int nrhs, const mxArray* prhs[]) {

@@ -40,6 +40,7 @@ function test_kvt()
   check(abs(out{4} ./ kvt('H1PT', 3e6, [300 350]) - 1) < 1e-12 & abs(out{14} ./ kvt('CP1PT', 3e6, [300 350]) - 1) < 1e-12, ...
         '14 outputs: h and cp');
   check(isequal(out{1}, kvt('V1PT', 3e6, [300 350])) && isequal(out{15}, int32([0 0])), '14 outputs: v, codes');
+  check(isequal(kvt('VUSHCVWDERPT1PT', 3e6, [300 350]), out{1}), 'one output asked of 14: v');
 
   % Gases by text and by id, and a gas of the session.
   air = 'N2:0.79;O2:0.21';
