@@ -376,26 +376,6 @@ Private Declare PtrSafe Function kvtLengthA Lib "kernel32" Alias "lstrlenA" (ByV
 Private Declare PtrSafe Function kvtCopyA Lib "kernel32" Alias "lstrcpynA" (ByVal target As String, ByVal p As LongPtr, ByVal n As Long) As LongPtr
 Private Declare PtrSafe Function kvtLengthW Lib "kernel32" Alias "lstrlenW" (ByVal p As LongPtr) As Long
 Private Declare PtrSafe Sub kvtCopyMemory Lib "kernel32" Alias "RtlMoveMemory" (ByVal target As LongPtr, ByVal source As LongPtr, ByVal bytes As LongPtr)
-
-' A text of the DLL in the host's ANSI code page; Null for a null pointer.
-Private Function kvtTextA(ByVal p As LongPtr) As Variant
-    Dim n As Long, s As String
-    If p = 0 Then kvtTextA = Null: Exit Function
-    n = kvtLengthA(p)
-    s = String$(n + 1, vbNullChar)
-    kvtCopyA s, p, n + 1
-    kvtTextA = Left$(s, n)
-End Function
-
-' A UTF-16 text of the DLL; Null for a null pointer.
-Private Function kvtTextW(ByVal p As LongPtr) As Variant
-    Dim n As Long, s As String
-    If p = 0 Then kvtTextW = Null: Exit Function
-    n = kvtLengthW(p)
-    s = String$(n, vbNullChar)
-    If n > 0 Then kvtCopyMemory StrPtr(s), p, 2 * n
-    kvtTextW = s
-End Function
 #Else
 Public Declare Function kvtVUSHCVWDERPTPT Lib "kvtcore6.dll" (ByVal p As Double, ByVal T As Double, ByRef v As Double, ByRef u As Double, ByRef s As Double, ByRef h As Double, ByRef cv As Double, ByRef w As Double, ByRef dvdpT As Double, ByRef dudpT As Double, ByRef dsdpT As Double, ByRef dhdpT As Double, ByRef dvdTp As Double, ByRef dudTp As Double, ByRef dsdTp As Double, ByRef cp As Double) As Double
 Public Declare Function kvtVPT Lib "kvtcore6.dll" (ByVal p As Double, ByVal T As Double) As Double
@@ -752,7 +732,29 @@ Private Declare Function kvtLengthA Lib "kernel32" Alias "lstrlenA" (ByVal p As 
 Private Declare Function kvtCopyA Lib "kernel32" Alias "lstrcpynA" (ByVal target As String, ByVal p As Long, ByVal n As Long) As Long
 Private Declare Function kvtLengthW Lib "kernel32" Alias "lstrlenW" (ByVal p As Long) As Long
 Private Declare Sub kvtCopyMemory Lib "kernel32" Alias "RtlMoveMemory" (ByVal target As Long, ByVal source As Long, ByVal bytes As Long)
+#End If
 
+#If VBA7 Then
+' A text of the DLL in the host's ANSI code page; Null for a null pointer.
+Private Function kvtTextA(ByVal p As LongPtr) As Variant
+    Dim n As Long, s As String
+    If p = 0 Then kvtTextA = Null: Exit Function
+    n = kvtLengthA(p)
+    s = String$(n + 1, vbNullChar)
+    kvtCopyA s, p, n + 1
+    kvtTextA = Left$(s, n)
+End Function
+
+' A UTF-16 text of the DLL; Null for a null pointer.
+Private Function kvtTextW(ByVal p As LongPtr) As Variant
+    Dim n As Long, s As String
+    If p = 0 Then kvtTextW = Null: Exit Function
+    n = kvtLengthW(p)
+    s = String$(n, vbNullChar)
+    If n > 0 Then kvtCopyMemory StrPtr(s), p, 2 * n
+    kvtTextW = s
+End Function
+#Else
 ' A text of the DLL in the host's ANSI code page; Null for a null pointer.
 Private Function kvtTextA(ByVal p As Long) As Variant
     Dim n As Long, s As String

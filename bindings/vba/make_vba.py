@@ -95,15 +95,17 @@ Private Const kvtErrNum As Long = 2036     ' xlErrNum, #NUM!
 Private kvtLoadTried As Boolean
 """
 
-# The parts written once per branch: pointers are LongPtr in VBA7, Long before.
-HELPERS = """Private Declare {safe}Function kvtLoadLibrary Lib "kernel32" Alias "LoadLibraryA" (ByVal path As String) As {ptr}
+# The parts written once per branch: pointers are LongPtr in VBA7, Long
+# before. VBA wants every Declare of a module before its first procedure.
+KERNEL = """Private Declare {safe}Function kvtLoadLibrary Lib "kernel32" Alias "LoadLibraryA" (ByVal path As String) As {ptr}
 Private Declare {safe}Function kvtModuleHandle Lib "kernel32" Alias "GetModuleHandleA" (ByVal module As String) As {ptr}
 Private Declare {safe}Function kvtLengthA Lib "kernel32" Alias "lstrlenA" (ByVal p As {ptr}) As Long
 Private Declare {safe}Function kvtCopyA Lib "kernel32" Alias "lstrcpynA" (ByVal target As String, ByVal p As {ptr}, ByVal n As Long) As {ptr}
 Private Declare {safe}Function kvtLengthW Lib "kernel32" Alias "lstrlenW" (ByVal p As {ptr}) As Long
 Private Declare {safe}Sub kvtCopyMemory Lib "kernel32" Alias "RtlMoveMemory" (ByVal target As {ptr}, ByVal source As {ptr}, ByVal bytes As {ptr})
+"""
 
-' A text of the DLL in the host's ANSI code page; Null for a null pointer.
+HELPERS = """' A text of the DLL in the host's ANSI code page; Null for a null pointer.
 Private Function kvtTextA(ByVal p As {ptr}) As Variant
     Dim n As Long, s As String
     If p = 0 Then kvtTextA = Null: Exit Function
@@ -190,15 +192,22 @@ End Function
 """
 
 
-def module(rows):
-    out = HEAD.format(dll=DLL).rstrip("\n").split("\n") + ["", "#If VBA7 Then"]
+def branches(part):
+    """A part of the module in its two forms, VBA7 and older."""
+    out = ["#If VBA7 Then"]
     for vba7 in (True, False):
         if not vba7:
             out.append("#Else")
-        out += [declaration(r, vba7) for r in rows]
-        out.append("")
-        out += HELPERS.format(safe="PtrSafe " if vba7 else "", ptr="LongPtr" if vba7 else "Long").rstrip("\n").split("\n")
-    out.append("#End If")
+        out += part(vba7, "PtrSafe " if vba7 else "", "LongPtr" if vba7 else "Long")
+    return out + ["#End If"]
+
+
+def module(rows):
+    out = HEAD.format(dll=DLL).rstrip("\n").split("\n") + [""]
+    out += branches(lambda vba7, safe, ptr: [declaration(r, vba7) for r in rows] + [""] +
+                    KERNEL.format(safe=safe, ptr=ptr).rstrip("\n").split("\n"))
+    out.append("")
+    out += branches(lambda vba7, safe, ptr: HELPERS.format(ptr=ptr).rstrip("\n").split("\n"))
     out += TAIL.format(dll=DLL).rstrip("\n").split("\n")
     out.append("")
     out.append("' ---- Worksheet functions, one per export ----")

@@ -7,7 +7,7 @@ its name, the DLL, its arguments in order with the VBA type of their C type,
 and its result type; no other function of the DLL is declared. Every export
 has a worksheet function kvt_NAME that takes its inputs and calls it. No two
 procedures, and no two names within one signature, differ only by case (VBA
-would refuse the module). A checked-in copy must equal the generated one.
+would refuse the module), and no Declare follows a procedure. A checked-in copy must equal the generated one.
 """
 import os
 import re
@@ -66,15 +66,41 @@ def check_branch(lines, vba7, rows):
         fail(f"{name}: declared but not in the catalogue")
 
 
+def view(lines, vba7):
+    """The module as VBA compiles it with VBA7 true or false (#If Win64
+    blocks hold no declarations and are kept whole)."""
+    out, keep, stack = [], True, []
+    for line in lines:
+        if line == "#If VBA7 Then":
+            stack.append(keep)
+            keep = vba7
+        elif line == "#Else" and stack:
+            keep = not vba7
+        elif line == "#End If" and stack:
+            keep = stack.pop()
+        elif keep:
+            out.append(line)
+    return out
+
+
 def main():
     text = open(sys.argv[1], encoding="ascii", newline="").read()
     if "\n" in text.replace("\r\n", ""):
         fail("line ends are not CR LF throughout")
     lines = text.split("\r\n")
     rows = catalogue.read()
-    start, other, end = lines.index("#If VBA7 Then"), lines.index("#Else"), lines.index("#End If")
-    check_branch(lines[start:other], True, rows)
-    check_branch(lines[other:end], False, rows)
+    # In each view: every export declared right, no procedure twice (VBA
+    # names are case-insensitive), and no Declare after a procedure.
+    for vba7 in (True, False):
+        seen = view(lines, vba7)
+        check_branch(seen, vba7, rows)
+        names = [m.group(1).lower() for m in map(PROCEDURE.match, seen) if m]
+        for n in {n for n in names if names.count(n) > 1}:
+            fail(f"procedure {n} defined twice (VBA7={vba7})")
+        declares = [i for i, line in enumerate(seen) if re.match(r"(Public|Private) Declare ", line)]
+        procedures = [i for i, line in enumerate(seen) if PROCEDURE.match(line) and " Declare " not in line]
+        if declares and procedures and max(declares) > min(procedures):
+            fail(f"a Declare line stands after a procedure (VBA7={vba7})")
 
     functions = {}
     for i, line in enumerate(lines):
@@ -92,14 +118,7 @@ def main():
     for name in functions:
         fail(f"kvt_{name}: worksheet function of no export")
 
-    # VBA names are case-insensitive: the procedures that one branch sees,
-    # and the names within each signature (with the outputs' array o), must
-    # differ by more than case, or VBA refuses the module.
-    outside = lines[:start] + lines[end:]
-    for branch in (lines[start:other], lines[other:end]):
-        names = [m.group(1).lower() for m in map(PROCEDURE.match, branch + outside) if m]
-        for n in {n for n in names if names.count(n) > 1}:
-            fail(f"procedure {n} defined twice")
+    # Names within one signature (with the outputs' array o) differ by more than case.
     for line in lines:
         m = DECLARE.match(line) or FUNCTION.match(line)
         if m:
