@@ -22,7 +22,10 @@ if ! dpkg -s wine32:i386 >/dev/null 2>&1; then
     echo "== SKIPPED: the x86 DLL is not run under wine: wine32:i386 does not install. apt said:"
     grep -E '^(E|W):|unexpected size|Depends:|is to be installed|unmet' "$apt_log" | sort -u | head -20 || true
     # Without wine32 the i386 architecture would only make later updates fail.
-    if [ -n "$added_i386" ]; then dpkg --remove-architecture i386 || true; fi
+    if [ -n "$added_i386" ]; then
+      dpkg --remove-architecture i386 || true
+      apt-get update -qq -o DPkg::Lock::Timeout=600 >/dev/null 2>&1 || true
+    fi
     rm -f "$apt_log"
     return 0
   fi
