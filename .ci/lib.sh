@@ -7,7 +7,12 @@ need() {
   if [ ${#missing[@]} -gt 0 ]; then
     echo "== installing ${missing[*]}"
     export DEBIAN_FRONTEND=noninteractive
-    if [ -z "${KVT_APT_UPDATED:-}" ]; then apt-get update -qq -o DPkg::Lock::Timeout=600; KVT_APT_UPDATED=1; fi
+    # An index that fails to download (a mirror in mid-sync) is no reason to
+    # stop: apt keeps the lists it had, and the install says what is missing.
+    if [ -z "${KVT_APT_UPDATED:-}" ]; then
+      apt-get update -qq -o DPkg::Lock::Timeout=600 || echo "== apt-get update had errors; going on with the lists there are"
+      KVT_APT_UPDATED=1
+    fi
     apt-get install -y -qq --no-install-recommends -o DPkg::Lock::Timeout=600 "${missing[@]}" >/dev/null
   fi
 }
