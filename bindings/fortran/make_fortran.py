@@ -138,6 +138,11 @@ BATCH = """
       integer(c_int32_t), value :: code
       type(c_ptr) :: kvtErrorMessage
     end function kvtErrorMessage
+    function kvtRangeText(rule) bind(C, name="kvtRangeText")
+      import :: c_ptr, c_char
+      character(kind=c_char), intent(in) :: rule(*)
+      type(c_ptr) :: kvtRangeText
+    end function kvtRangeText
     ! args(i) = c_loc of argument i's values; strides = c_null_ptr (all 1) or
     ! c_loc of a c_size_t array (0 repeats one value); codes may be c_null_ptr.
     function kvtEval(e, name, n, args, strides, out, codes, threads) bind(C, name="kvtEval")
