@@ -6,6 +6,7 @@
 #pragma once
 
 #include "frame/engine.h"
+#include "regions/constants.h"
 
 namespace kvt {
 
@@ -23,6 +24,10 @@ constexpr double kTCrit = 647.096;              // K; top of the saturation fami
 constexpr double kPCrit = 22064000.0;           // Pa; top of kvtTSP
 constexpr double kGasTMin = 200.0;              // K; span of the gas families
 constexpr double kGasTMax = 2500.0;             // K
+
+// The bounds at which the p,h and p,s rules evaluate regions 1 and 2 have
+// their powers formed at load (H1PTLOW, H2PTMID and their entropy twins).
+static_assert(kTMin == TLOW && kTSplit == TMID, "bounds of the fixed-temperature cores");
 
 namespace rules {
 
@@ -95,8 +100,8 @@ struct PH {
   static bool Fails(Engine& e, double p, double h, X&&...) {
     if (p < kPMin || p > kPMax) return true;
     const double F = 1 + e.tolerance;
-    if (F * h < e.water.H1PT(p, kTMin)) return true;
-    const double hmax = p <= kPHighT ? e.water.H5PT(p, kTMax) : e.water.H2PT(p, kTSplit);
+    if (F * h < e.water.H1PTLOW(p)) return true;  // H1PT at kTMin
+    const double hmax = p <= kPHighT ? e.water.H5PT(p, kTMax) : e.water.H2PTMID(p);
     return h > F * hmax;
   }
 };
@@ -108,8 +113,8 @@ struct PS {
     if (p < kPMin || p > kPMax) return true;
     const double F = 1 + e.tolerance;
     const double G = s > 0 ? F : 1 / F;
-    if (G * s < e.water.S1PT(p, kTMin)) return true;
-    const double smax = p <= kPHighT ? e.water.S5PT(p, kTMax) : e.water.S2PT(p, kTSplit);
+    if (G * s < e.water.S1PTLOW(p)) return true;  // S1PT at kTMin
+    const double smax = p <= kPHighT ? e.water.S5PT(p, kTMax) : e.water.S2PTMID(p);
     return s > F * smax;
   }
 };

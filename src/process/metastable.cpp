@@ -24,11 +24,11 @@ template <int SA, int SB, int S>
 Gibbs W::MetastableSums(double pi, double tau) {
   using namespace metastable;
   constexpr int32_t countA = FillCount(I, SA), countB = FillCount(J, SB);
-  powerA.Fill(pi, countA);
-  powerB.Fill(tau - 0.5, countB);
-  const TermSums t = SumTerms<SA, SB>(powerA, powerB, N, I, J);
+  powerA.Fill<countA>(pi);
+  powerB.Fill<countB>(tau - 0.5);
+  const TermSums t = SumTerms<SA, SB, N, I, J>(powerA, powerB);
   Gibbs g{t.s, t.sA, t.sAA, t.sB, t.sBB, t.sAB};
-  if constexpr (S > 0) AddIdealTerms<S>(powerB, tau, N0, region2::J0, g);
+  if constexpr (S > 0) AddIdealTerms<S, N0, region2::J0>(powerB, tau, g);
   return g;
 }
 

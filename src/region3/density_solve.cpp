@@ -217,15 +217,16 @@ double WaterCalculator::R3PTR0(double p, double T, double rho0) {
   for (;;) {
     const double delta = rho / RHOC;
     ++pass;
-    powerA.Fill(delta, 10);
-    powerB.Fill(tau, 26);
+    powerA.Fill<10>(delta);
+    powerB.Fill<26>(tau);
     // phi_d and delta phi_dd from the same term values.
     double D1 = N1 / delta, D2 = -N1 / delta;
-    for (int k = 0; k < 39; ++k) {
-      const double t = N[k] * powerA.Power(I[k] - 1) * powerB.Power(J[k]);
-      D1 += I[k] * t;
-      D2 += (I[k] - 1) * I[k] * t;
-    }
+    ForEachIndex<39>([&](auto k) {
+      constexpr int32_t i = I[k];
+      const double t = N[k] * powerA.Power<i - 1>() * powerB.Power<J[k]>();
+      D1 += i * t;
+      D2 += (i - 1) * i * t;
+    });
     const double f = RGAS * D1 * delta * rho * T - p;
     rho = rho - f / ((2 * D1 + D2) * RGAS * delta * T);
     if (pass >= engine->maxIteration) raise(3);

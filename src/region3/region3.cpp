@@ -21,9 +21,9 @@ template <int SA, int SB, int FA, int FB>
 TermSums Region3Sums(PowerTable& A, PowerTable& B, double delta, double tau) {
   using namespace region3;
   static_assert(FA >= FillCount(I, SA) && FB >= FillCount(J, SB), "power table too short");
-  A.Fill(delta, FA);
-  B.Fill(tau, FB);
-  return SumTerms<SA, SB>(A, B, N, I, J);
+  A.Fill<FA>(delta);
+  B.Fill<FB>(tau);
+  return SumTerms<SA, SB, N, I, J>(A, B);
 }
 
 // The reduced derivatives that cp, w, the Joule-Thomson coefficient and the

@@ -24,12 +24,9 @@ constexpr double S3AB = 4412.02148223476;
 template <class Tab>
 double BackwardSum(PowerTable& A, PowerTable& B, double x, double y) {
   constexpr int32_t fa = FillCount(Tab::I, 0), fb = FillCount(Tab::J, 0);
-  constexpr int32_t count = sizeof(Tab::N) / sizeof(Tab::N[0]);
-  A.Fill(x, fa);
-  B.Fill(y, fb);
-  double sum = 0;
-  for (int32_t k = 0; k < count; ++k) sum += Tab::N[k] * A.Power(Tab::I[k]) * B.Power(Tab::J[k]);
-  return sum;
+  A.Fill<fa>(x);
+  B.Fill<fb>(y);
+  return SumTerms<0, 0, Tab::N, Tab::I, Tab::J>(A, B).s;
 }
 
 // What the iterations need from one pass over the Helmholtz terms at
@@ -46,9 +43,9 @@ template <bool WithS>
 State3 Evaluate(PowerTable& A, PowerTable& B, double rho, double T, bool withA) {
   using namespace region3;
   const double delta = rho / RHOC, tau = TC / T;
-  if (withA) A.Fill(delta, 9);
-  B.Fill(tau, 24);
-  const TermSums t = SumTerms<2, 2>(A, B, N, I, J);
+  if (withA) A.Fill<9>(delta);
+  B.Fill<24>(tau);
+  const TermSums t = SumTerms<2, 2, N, I, J>(A, B);
   const double phi_d = N1 / delta + t.sA;
   const double phi_dd = -N1 / (delta * delta) + t.sAA;
   State3 r;
@@ -292,7 +289,7 @@ double WaterCalculator::PT3HS(double h, double s, double& p, double& T) {
 // every mode. Density is fixed, so its powers are filled once.
 double WaterCalculator::T3RH(double rho, double h) {
   const double threshold = engine->tolerance * h;
-  powerA.Fill(rho / RHOC, 9);
+  powerA.Fill<9>(rho / RHOC);
   double T = 743.15;
   int32_t pass = 0;
   for (;;) {

@@ -16,30 +16,7 @@ constexpr double RHOC = 322.0;
 
 }  // namespace
 
-// Equation 30, the quadratic in beta = (p / 1 MPa)^(1/4) solved for beta.
-double WaterCalculator::PST(double T) const {
-  using saturation::n;
-  const double theta = T + n[9] / (T - n[10]);
-  const double A = theta * theta + n[1] * theta + n[2];
-  const double B = n[3] * theta * theta + n[4] * theta + n[5];
-  const double C = n[6] * theta * theta + n[7] * theta + n[8];
-  const double y = 2 * C / (std::sqrt(B * B - 4 * A * C) - B);
-  const double y2 = y * y;
-  return y2 * y2 * 1000000.0;
-}
-
-// Equation 31, the same quadratic solved for theta.
-double WaterCalculator::TSP(double p) const {
-  using saturation::n;
-  const double beta2 = std::sqrt(p / 1000000.0);
-  const double beta = std::sqrt(beta2);
-  const double E = beta2 + n[3] * beta + n[6];
-  const double F = n[1] * beta2 + n[4] * beta + n[7];
-  const double G = n[2] * beta2 + n[5] * beta + n[8];
-  const double D = 2 * G / (-F - std::sqrt(F * F - 4 * E * G));
-  const double s = n[10] + D;
-  return (s - std::sqrt(s * s - 4 * (n[9] + n[10] * D))) / 2;
-}
+// PST and TSP: region3/saturation_line.h.
 
 // d/dT of (2C / (D - B))^4, D = sqrt(B^2 - 4AC), by the chain rule through
 // theta(T).
@@ -66,21 +43,21 @@ double WaterCalculator::DPDTST(double T) const {
 // saturation properties, in powers of (1 - T / Tc)^(1/3).
 double WaterCalculator::ROUGHRSWT(double T) {
   const double theta = std::pow(1 - T / TC, 0.3333333333333333);
-  powerA.Fill(theta, 110);
+  powerA.Fill<110>(theta);
   const PowerTable& x = powerA;
-  return RHOC * (1 + 1.99274064 * x.Power(1) + 1.09965342 * x.Power(2) -
-                 0.510839303 * x.Power(5) - 1.75493479 * x.Power(16) -
-                 45.5170352 * x.Power(43) - 674694.45 * x.Power(110));
+  return RHOC * (1 + 1.99274064 * x.Power<1>() + 1.09965342 * x.Power<2>() -
+                 0.510839303 * x.Power<5>() - 1.75493479 * x.Power<16>() -
+                 45.5170352 * x.Power<43>() - 674694.45 * x.Power<110>());
 }
 
 // Saturated vapour density, same release, in powers of (1 - T / Tc)^(1/6).
 double WaterCalculator::ROUGHRSST(double T) {
   const double theta = std::pow(1 - T / TC, 0.16666666666666666);
-  powerA.Fill(theta, 71);
+  powerA.Fill<71>(theta);
   const PowerTable& x = powerA;
-  return RHOC * std::exp(-2.0315024 * x.Power(2) - 2.6830294 * x.Power(4) -
-                         5.38626492 * x.Power(8) - 17.2991605 * x.Power(18) -
-                         44.7586581 * x.Power(37) - 63.9201063 * x.Power(71));
+  return RHOC * std::exp(-2.0315024 * x.Power<2>() - 2.6830294 * x.Power<4>() -
+                         5.38626492 * x.Power<8>() - 17.2991605 * x.Power<18>() -
+                         44.7586581 * x.Power<37>() - 63.9201063 * x.Power<71>());
 }
 
 // h'3a(s). Only this branch is evaluated: below its range the value is its
@@ -88,26 +65,26 @@ double WaterCalculator::ROUGHRSST(double T) {
 double WaterCalculator::ROUGHHSWS(double s) {
   using namespace saturation;
   const double sigma = s / 3800.0;
-  powerA.Fill(sigma - 1.09, 32);
-  powerB.Fill(sigma + 0.0000366, 36);
-  return 1700000.0 * SumTerms<0, 0>(powerA, powerB, H3A_N, H3A_I, H3A_J).s;
+  powerA.Fill<32>(sigma - 1.09);
+  powerB.Fill<36>(sigma + 0.0000366);
+  return 1700000.0 * SumTerms<0, 0, H3A_N, H3A_I, H3A_J>(powerA, powerB).s;
 }
 
 // h''2ab(s), again the one branch only.
 double WaterCalculator::ROUGHHSSS(double s) {
   using namespace saturation;
-  powerA.Fill(5210.0 / s - 0.513, 36);
-  powerB.Fill(s / 9200.0 - 0.524, 32);
-  return 2800000.0 * std::exp(SumTerms<0, 0>(powerA, powerB, H2AB_N, H2AB_I, H2AB_J).s);
+  powerA.Fill<36>(5210.0 / s - 0.513);
+  powerB.Fill<32>(s / 9200.0 - 0.524);
+  return 2800000.0 * std::exp(SumTerms<0, 0, H2AB_N, H2AB_I, H2AB_J>(powerA, powerB).s);
 }
 
 // Tsat(h,s) of wet steam; valid above s = 5210.88782493073 J/(kg K), which
 // the caller decides.
 double WaterCalculator::TSATHS(double h, double s) {
   using namespace saturation;
-  powerA.Fill(h / 2800000.0 - 0.119, 28);
-  powerB.Fill(s / 9200.0 - 1.07, 36);
-  return 550.0 * SumTerms<0, 0>(powerA, powerB, TSAT_N, TSAT_I, TSAT_J).s;
+  powerA.Fill<28>(h / 2800000.0 - 0.119);
+  powerB.Fill<36>(s / 9200.0 - 1.07);
+  return 550.0 * SumTerms<0, 0, TSAT_N, TSAT_I, TSAT_J>(powerA, powerB).s;
 }
 
 }  // namespace kvt

@@ -8,8 +8,13 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <utility>
 
 #include "regions/power_table.h"
+
+// The term passes are inlined into every core, so that each core keeps only
+// the sums it reads and the compiler drops the rest.
+#define KVT_PASS inline __attribute__((always_inline))
 
 namespace kvt {
 
@@ -30,34 +35,70 @@ constexpr int32_t FillCount(const int32_t (&e)[N], int32_t shift) {
   return m;
 }
 
-template <int SA, int SB, size_t N>
-inline TermSums SumTerms(const PowerTable& A, const PowerTable& B, const double (&n)[N],
-                         const int32_t (&I)[N], const int32_t (&J)[N]) {
-  double a[3] = {1.0, 1.0, 1.0}, b[3] = {1.0, 1.0, 1.0};
-  for (int k = 0; k <= SA; ++k) a[k] = A.Power(k);
-  for (int k = 0; k <= SB; ++k) b[k] = B.Power(k);
+namespace terms {
+
+// One term n A^I B^J, read with the shifts SA, SB and multiplied up to each
+// sum. The exponents are constants here, so each power is one read (or one
+// division for a negative exponent) and each factor I, J, I (I-1) is a
+// literal; the products keep the order of the plain loop, so the sums come
+// out bit for bit as that loop gives them. A factor 0 still multiplies: an
+// infinite power times 0 must give the NaN that marks the result invalid.
+template <int SA, int SB, int32_t I, int32_t J, class TA, class TB>
+KVT_PASS void AddTerm(TermSums& r, double n, const TA& A, const TB& B) {
+  constexpr double fi = I, fj = J;
+  const double t = n * A.template Power<I - SA>() * B.template Power<J - SB>();
+  r.s += t * A.template Power<SA>() * B.template Power<SB>();
+  if constexpr (SA >= 1) r.sA += fi * t * A.template Power<SA - 1>() * B.template Power<SB>();
+  if constexpr (SA >= 2)
+    r.sAA += fi * (fi - 1) * t * A.template Power<SA - 2>() * B.template Power<SB>();
+  if constexpr (SB >= 1) r.sB += fj * t * A.template Power<SA>() * B.template Power<SB - 1>();
+  if constexpr (SB >= 2)
+    r.sBB += fj * (fj - 1) * t * A.template Power<SA>() * B.template Power<SB - 2>();
+  if constexpr (SA >= 1 && SB >= 1)
+    r.sAB += fi * fj * t * A.template Power<SA - 1>() * B.template Power<SB - 1>();
+}
+
+template <int SA, int SB, const auto& N, const auto& I, const auto& J, class TA, class TB,
+          size_t... k>
+KVT_PASS TermSums Sum(const TA& A, const TB& B, std::index_sequence<k...>) {
   TermSums r;
-  for (size_t i = 0; i < N; ++i) {
-    const double t = n[i] * A.Power(I[i] - SA) * B.Power(J[i] - SB);
-    const double fi = I[i], fj = J[i];
-    r.s += t * a[SA] * b[SB];
-    if constexpr (SA >= 1) r.sA += fi * t * a[SA - 1] * b[SB];
-    if constexpr (SA >= 2) r.sAA += fi * (fi - 1) * t * a[SA - 2] * b[SB];
-    if constexpr (SB >= 1) r.sB += fj * t * a[SA] * b[SB - 1];
-    if constexpr (SB >= 2) r.sBB += fj * (fj - 1) * t * a[SA] * b[SB - 2];
-    if constexpr (SA >= 1 && SB >= 1) r.sAB += fi * fj * t * a[SA - 1] * b[SB - 1];
-  }
+  (AddTerm<SA, SB, I[k], J[k]>(r, N[k], A, B), ...);  // in table order
   return r;
+}
+
+template <class F, size_t... k>
+KVT_PASS void Each(F& f, std::index_sequence<k...>) {
+  (f(std::integral_constant<size_t, k>{}), ...);
+}
+
+}  // namespace terms
+
+// Calls f(k) for k = 0 .. count-1 in this order, k as a compile-time
+// constant (std::integral_constant), so that a loop body can index the
+// exponent tables by it and read its powers with constant exponents.
+template <size_t count, class F>
+KVT_PASS void ForEachIndex(F f) {
+  terms::Each(f, std::make_index_sequence<count>{});
+}
+
+// One pass over the terms n * A^I * B^J of the table (N, I, J), unrolled at
+// compile time. The tables must already hold the powers the shifted
+// exponents reach. The callers use only the sums they need; the others are
+// dropped by the compiler. A table is a PowerTable or a FixedPowers.
+template <int SA, int SB, const auto& N, const auto& I, const auto& J, class TA, class TB>
+KVT_PASS TermSums SumTerms(const TA& A, const TB& B) {
+  constexpr size_t count = sizeof N / sizeof N[0];
+  static_assert(sizeof I / sizeof I[0] == count && sizeof J / sizeof J[0] == count);
+  return terms::Sum<SA, SB, N, I, J>(A, B, std::make_index_sequence<count>{});
 }
 
 // A backward equation: sum of n a^I b^J, with a and b filled into the two
 // tables as far as the exponents reach.
-template <size_t N>
-inline double BackwardSum(PowerTable& A, double a, PowerTable& B, double b, const double (&n)[N],
-                          const int32_t (&I)[N], const int32_t (&J)[N]) {
-  A.Fill(a, FillCount(I, 0));
-  B.Fill(b, FillCount(J, 0));
-  return SumTerms<0, 0>(A, B, n, I, J).s;
+template <const auto& N, const auto& I, const auto& J>
+inline double BackwardSum(PowerTable& A, double a, PowerTable& B, double b) {
+  A.Fill<FillCount(I, 0)>(a);
+  B.Fill<FillCount(J, 0)>(b);
+  return SumTerms<0, 0, N, I, J>(A, B).s;
 }
 
 // Reduced Gibbs free energy and its derivatives by pi and tau.
@@ -69,18 +110,38 @@ struct Gibbs {
 // stored order, to gamma and its tau derivatives. `table` is refilled with
 // tau and each term reads tau^(J0 - S) once, so even terms whose factor is 0
 // take the same pattern. The log and 1/pi terms are the callers'.
-template <int S, size_t N>
-inline void AddIdealTerms(PowerTable& table, double tau, const double (&n0)[N],
-                          const int32_t (&J0)[N], Gibbs& g) {
-  table.Fill(tau, FillCount(J0, S));
-  double t[3] = {1.0, 1.0, 1.0};
-  for (int k = 0; k <= S; ++k) t[k] = table.Power(k);
-  for (size_t i = 0; i < N; ++i) {
-    const double e = n0[i] * table.Power(J0[i] - S), j = J0[i];
-    g.g += e * t[S];
-    g.gt += j * e * t[S - 1];
-    if constexpr (S >= 2) g.gtt += j * (j - 1) * e * t[S - 2];
-  }
+namespace terms {
+
+template <int S, int32_t J0, class T>
+KVT_PASS void AddIdeal(Gibbs& g, double n0, const T& table) {
+  constexpr double j = J0;
+  const double e = n0 * table.template Power<J0 - S>();
+  g.g += e * table.template Power<S>();
+  g.gt += j * e * table.template Power<S - 1>();
+  if constexpr (S >= 2) g.gtt += j * (j - 1) * e * table.template Power<S - 2>();
+}
+
+template <int S, const auto& N0, const auto& J0, class T, size_t... k>
+KVT_PASS void AddIdealTerms(const T& table, Gibbs& g, std::index_sequence<k...>) {
+  (AddIdeal<S, J0[k]>(g, N0[k], table), ...);
+}
+
+}  // namespace terms
+
+// Ideal-gas part of a steam equation: adds n0 tau^J0 over the terms, in
+// stored order, to gamma and its tau derivatives. `table` is refilled with
+// tau and each term reads tau^(J0 - S) once, so even terms whose factor is 0
+// take the same pattern. The log and 1/pi terms are the callers'.
+template <int S, const auto& N0, const auto& J0>
+KVT_PASS void AddIdealTerms(PowerTable& table, double tau, Gibbs& g) {
+  table.Fill<FillCount(J0, S)>(tau);
+  AddIdealTerms<S, N0, J0>(static_cast<const PowerTable&>(table), g);
+}
+
+// The same from a table that already holds the powers of tau.
+template <int S, const auto& N0, const auto& J0, class T>
+KVT_PASS void AddIdealTerms(const T& table, Gibbs& g) {
+  terms::AddIdealTerms<S, N0, J0>(table, g, std::make_index_sequence<sizeof N0 / sizeof N0[0]>{});
 }
 
 // The fourteen outputs, in the order of the exports' pointers: v, u, s, h, cv,

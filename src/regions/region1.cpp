@@ -6,6 +6,19 @@
 
 namespace kvt {
 
+namespace {
+
+// Region 1 at a fixed temperature: tau and the powers of B = tau - 1.222.
+struct Region1AtT {
+  explicit Region1AtT(double T) : tau(TSTAR1 / T), B(tau - 1.222) {}
+  double tau;
+  FixedPowers<FillCount(region1::J, 1)> B;
+};
+
+const Region1AtT kAtTLOW(TLOW), kAtR3LOW(623.15);
+
+}  // namespace
+
 double WaterCalculator::V1PT(double p, double T) {
   const Gibbs g = Region1Sums<1, 0>(p, TSTAR1 / T);
   return g.gp * (RGAS / P1STAR) * T;
@@ -26,6 +39,29 @@ double WaterCalculator::S1PT(double p, double T) {
 double WaterCalculator::H1PT(double p, double T) {
   const Gibbs g = Region1Sums<0, 1>(p, TSTAR1 / T);
   return g.gt * RGAS * 1386.0;
+}
+
+double WaterCalculator::H1PTLOW(double p) {
+  Region1FillA<0>(p);
+  return SumTerms<0, 1, region1::N, region1::I, region1::J>(powerA, kAtTLOW.B).sB * RGAS * 1386.0;
+}
+
+double WaterCalculator::H1PTR3LOW(double p) {
+  Region1FillA<0>(p);
+  return SumTerms<0, 1, region1::N, region1::I, region1::J>(powerA, kAtR3LOW.B).sB * RGAS *
+         1386.0;
+}
+
+double WaterCalculator::S1PTLOW(double p) {
+  Region1FillA<0>(p);
+  const TermSums t = SumTerms<0, 1, region1::N, region1::I, region1::J>(powerA, kAtTLOW.B);
+  return (t.sB * kAtTLOW.tau - t.s) * RGAS;
+}
+
+double WaterCalculator::S1PTR3LOW(double p) {
+  Region1FillA<0>(p);
+  const TermSums t = SumTerms<0, 1, region1::N, region1::I, region1::J>(powerA, kAtR3LOW.B);
+  return (t.sB * kAtR3LOW.tau - t.s) * RGAS;
 }
 
 double WaterCalculator::CP1PT(double p, double T) {

@@ -13,17 +13,17 @@ namespace kvt {
 
 double WaterCalculator::T1PHBACK(double p, double h) {
   using namespace region1::tph;
-  return BackwardSum(powerA, p / 1e6, powerB, h / 2.5e6 + 1.0, N, I, J);
+  return BackwardSum<N, I, J>(powerA, p / 1e6, powerB, h / 2.5e6 + 1.0);
 }
 
 double WaterCalculator::T1PSBACK(double p, double s) {
   using namespace region1::tps;
-  return BackwardSum(powerA, p / 1e6, powerB, s / 1000.0 + 2.0, N, I, J);
+  return BackwardSum<N, I, J>(powerA, p / 1e6, powerB, s / 1000.0 + 2.0);
 }
 
 double WaterCalculator::P1HSBACK(double h, double s) {
   using namespace region1::phs;
-  return PMAX * BackwardSum(powerA, h / 3.4e6 + 0.05, powerB, s / 7600.0 + 0.05, N, I, J);
+  return PMAX * BackwardSum<N, I, J>(powerA, h / 3.4e6 + 0.05, powerB, s / 7600.0 + 0.05);
 }
 
 // Both single-variable solves end alike: out of passes is error 3 (also when

@@ -10,22 +10,22 @@
 namespace kvt {
 
 template <int SA>
-void WaterCalculator::Region1FillA(double p) {
-  powerA.Fill(7.1 - p / P1STAR, FillCount(region1::I, SA));
+KVT_PASS void WaterCalculator::Region1FillA(double p) {
+  powerA.Fill<FillCount(region1::I, SA)>(7.1 - p / P1STAR);
 }
 
 // Derivatives by pi and tau from powerA as it stands (dA/dpi = -1 turns the
 // sign of the odd pi-derivatives).
 template <int SA, int SB>
-Gibbs WaterCalculator::Region1Pass(double tau) {
+KVT_PASS Gibbs WaterCalculator::Region1Pass(double tau) {
   using namespace region1;
-  powerB.Fill(tau - 1.222, FillCount(J, SB));
-  const TermSums t = SumTerms<SA, SB>(powerA, powerB, N, I, J);
+  powerB.Fill<FillCount(J, SB)>(tau - 1.222);
+  const TermSums t = SumTerms<SA, SB, N, I, J>(powerA, powerB);
   return {t.s, -t.sA, t.sAA, t.sB, t.sBB, -t.sAB};
 }
 
 template <int SA, int SB>
-Gibbs WaterCalculator::Region1Sums(double p, double tau) {
+KVT_PASS Gibbs WaterCalculator::Region1Sums(double p, double tau) {
   Region1FillA<SA>(p);
   return Region1Pass<SA, SB>(tau);
 }

@@ -6,6 +6,21 @@
 
 namespace kvt {
 
+namespace {
+
+// Region 2 at a fixed temperature: tau, the powers of B = tau - 0.5 for the
+// residual part and those of tau for the ideal part.
+struct Region2AtT {
+  explicit Region2AtT(double T) : tau(TSTAR2 / T), B(tau - 0.5), powers(tau) {}
+  double tau;
+  FixedPowers<FillCount(region2::J, 1)> B;
+  FixedPowers<FillCount(region2::J0, 1)> powers;
+};
+
+const Region2AtT kAtTMID(TMID);
+
+}  // namespace
+
 double WaterCalculator::V2PT(double p, double T) {
   const Gibbs g = Region2Residual<1, 0>(p, TSTAR2 / T);
   return (g.gp + 1.0 / (p / P2STAR)) / P2STAR * RGAS * T;
@@ -44,6 +59,24 @@ double WaterCalculator::H2PT(double p, double T) {
   Gibbs g = Region2Residual<0, 1>(p, tau);
   Region2Ideal<1>(powerA, tau, g);
   return g.gt * RGAS * 540.0;
+}
+
+// The residual part at fixed tau, then the ideal part, as in H2PT and S2PT.
+double WaterCalculator::H2PTMID(double p) {
+  Region2FillA<0>(p);
+  const TermSums t = SumTerms<0, 1, region2::N, region2::I, region2::J>(powerA, kAtTMID.B);
+  Gibbs g{t.s, t.sA, t.sAA, t.sB, t.sBB, t.sAB};
+  AddIdealTerms<1, region2::N0, region2::J0>(kAtTMID.powers, g);
+  return g.gt * RGAS * 540.0;
+}
+
+double WaterCalculator::S2PTMID(double p) {
+  Region2FillA<0>(p);
+  const TermSums t = SumTerms<0, 1, region2::N, region2::I, region2::J>(powerA, kAtTMID.B);
+  Gibbs g{t.s, t.sA, t.sAA, t.sB, t.sBB, t.sAB};
+  AddIdealTerms<1, region2::N0, region2::J0>(kAtTMID.powers, g);
+  g.g += std::log(p / P2STAR);
+  return (kAtTMID.tau * g.gt - g.g) * RGAS;
 }
 
 double WaterCalculator::CP2PT(double p, double T) {

@@ -13,39 +13,48 @@ namespace kvt {
 
 double WaterCalculator::T2APH(double p, double h) {
   using namespace region2::tpha;
-  return BackwardSum(powerA, p / 1e6, powerB, h / 2e6 - 2.1, N, I, J);
+  return BackwardSum<N, I, J>(powerA, p / 1e6, powerB, h / 2e6 - 2.1);
 }
 
 double WaterCalculator::T2BPH(double p, double h) {
   using namespace region2::tphb;
-  return BackwardSum(powerA, p / 1e6 - 2.0, powerB, h / 2e6 - 2.6, N, I, J);
+  return BackwardSum<N, I, J>(powerA, p / 1e6 - 2.0, powerB, h / 2e6 - 2.6);
 }
 
 double WaterCalculator::T2CPH(double p, double h) {
   using namespace region2::tphc;
-  return BackwardSum(powerA, p / 1e6 + 25.0, powerB, h / 2e6 - 1.8, N, I, J);
+  return BackwardSum<N, I, J>(powerA, p / 1e6 + 25.0, powerB, h / 2e6 - 1.8);
 }
 
 // The exponents of pi are quarter-integers here, so pi^I needs the real power
-// function; only the powers of B come from a table.
+// function; only the powers of B come from a table. The terms come sorted by
+// I, twelve distinct values in all: pow runs once for each. The exponent is
+// passed through an empty asm so that the compiler calls pow itself: with a
+// constant -1 it would divide instead, which can differ in the last bit.
 double WaterCalculator::T2APS(double p, double s) {
   using namespace region2::tpsa;
   const double pi = p / 1e6;
-  powerB.Fill(s / 2000.0 - 2.0, FillCount(J, 0));
-  double sum = 0;
-  for (size_t i = 0; i < sizeof N / sizeof N[0]; ++i)
-    sum += N[i] * std::pow(pi, I[i]) * powerB.Power(J[i]);
+  powerB.Fill<FillCount(J, 0)>(s / 2000.0 - 2.0);
+  double sum = 0, piI = 0;
+  ForEachIndex<sizeof N / sizeof N[0]>([&](auto k) {
+    if constexpr (k == 0 || I[k] != I[k - 1]) {
+      double e = I[k];
+      asm("" : "+x"(e));
+      piI = std::pow(pi, e);
+    }
+    sum += N[k] * piI * powerB.Power<J[k]>();
+  });
   return sum;
 }
 
 double WaterCalculator::T2BPS(double p, double s) {
   using namespace region2::tpsb;
-  return BackwardSum(powerA, p / 1e6, powerB, 10.0 - s / 785.3, N, I, J);
+  return BackwardSum<N, I, J>(powerA, p / 1e6, powerB, 10.0 - s / 785.3);
 }
 
 double WaterCalculator::T2CPS(double p, double s) {
   using namespace region2::tpsc;
-  return BackwardSum(powerA, p / 1e6, powerB, 2.0 - s / 2925.1, N, I, J);
+  return BackwardSum<N, I, J>(powerA, p / 1e6, powerB, 2.0 - s / 2925.1);
 }
 
 // The p(h,s) equations give the fourth root of the reduced pressure.
@@ -56,20 +65,20 @@ static double FourthPower(double x) {
 
 double WaterCalculator::P2AHSBACK(double h, double s) {
   using namespace region2::phsa;
-  return P2AB * FourthPower(BackwardSum(powerA, h / 4.2e6 - 0.5,
-                                        powerB, s / 12000.0 - 1.2, N, I, J));
+  return P2AB * FourthPower(BackwardSum<N, I, J>(powerA, h / 4.2e6 - 0.5,
+                                        powerB, s / 12000.0 - 1.2));
 }
 
 double WaterCalculator::P2BHSBACK(double h, double s) {
   using namespace region2::phsb;
-  return PMAX * FourthPower(BackwardSum(powerA, h / 4.1e6 - 0.6,
-                                        powerB, s / 7900.0 - 1.01, N, I, J));
+  return PMAX * FourthPower(BackwardSum<N, I, J>(powerA, h / 4.1e6 - 0.6,
+                                        powerB, s / 7900.0 - 1.01));
 }
 
 double WaterCalculator::P2CHSBACK(double h, double s) {
   using namespace region2::phsc;
-  return PMAX * FourthPower(BackwardSum(powerA, h / 3.5e6 - 0.7,
-                                        powerB, s / 5900.0 - 1.1, N, I, J));
+  return PMAX * FourthPower(BackwardSum<N, I, J>(powerA, h / 3.5e6 - 0.7,
+                                        powerB, s / 5900.0 - 1.1));
 }
 
 // Boundary 2b/2c, IAPWS-IF97 Equations 20 and 21 (Table 19).

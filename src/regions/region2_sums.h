@@ -11,21 +11,21 @@
 namespace kvt {
 
 template <int SA>
-void WaterCalculator::Region2FillA(double p) {
-  powerA.Fill(p / P2STAR, FillCount(region2::I, SA));
+KVT_PASS void WaterCalculator::Region2FillA(double p) {
+  powerA.Fill<FillCount(region2::I, SA)>(p / P2STAR);
 }
 
 // Residual part from powerA as it stands.
 template <int SA, int SB>
-Gibbs WaterCalculator::Region2ResidualPass(double tau) {
+KVT_PASS Gibbs WaterCalculator::Region2ResidualPass(double tau) {
   using namespace region2;
-  powerB.Fill(tau - 0.5, FillCount(J, SB));
-  const TermSums t = SumTerms<SA, SB>(powerA, powerB, N, I, J);
+  powerB.Fill<FillCount(J, SB)>(tau - 0.5);
+  const TermSums t = SumTerms<SA, SB, N, I, J>(powerA, powerB);
   return {t.s, t.sA, t.sAA, t.sB, t.sBB, t.sAB};
 }
 
 template <int SA, int SB>
-Gibbs WaterCalculator::Region2Residual(double p, double tau) {
+KVT_PASS Gibbs WaterCalculator::Region2Residual(double p, double tau) {
   Region2FillA<SA>(p);
   return Region2ResidualPass<SA, SB>(tau);
 }
@@ -34,8 +34,8 @@ Gibbs WaterCalculator::Region2Residual(double p, double tau) {
 // derivatives, reading tau^(J0 - S) from `table` refilled with tau. The log
 // and 1/pi terms are the callers'.
 template <int S>
-void WaterCalculator::Region2Ideal(PowerTable& table, double tau, Gibbs& g) {
-  AddIdealTerms<S>(table, tau, region2::N0, region2::J0, g);
+KVT_PASS void WaterCalculator::Region2Ideal(PowerTable& table, double tau, Gibbs& g) {
+  AddIdealTerms<S, region2::N0, region2::J0>(table, tau, g);
 }
 
 }  // namespace kvt

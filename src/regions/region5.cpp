@@ -20,43 +20,43 @@ Gibbs IdealStart(double pi, bool withLog) {
 
 double WaterCalculator::V5PT(double p, double T) {
   const double pi = p / P5STAR;
-  const Gibbs g = Region5Sums<1, 0>(pi, TSTAR5 / T, {0, 1.0 / pi, 0, 0, 0, 0}, 9);
+  const Gibbs g = Region5Sums<1, 0, 9>(pi, TSTAR5 / T, {0, 1.0 / pi, 0, 0, 0, 0});
   return g.gp / P5STAR * RGAS * T;
 }
 
 double WaterCalculator::U5PT(double p, double T) {
   const double pi = p / P5STAR, tau = TSTAR5 / T;
-  const Gibbs g = Region5Sums<1, 1>(pi, tau, {0, 1.0 / pi, 0, 0, 0, 0}, 9);
+  const Gibbs g = Region5Sums<1, 1, 9>(pi, tau, {0, 1.0 / pi, 0, 0, 0, 0});
   return (g.gt * tau - g.gp * pi) * RGAS * T;
 }
 
 double WaterCalculator::S5PT(double p, double T) {
   const double pi = p / P5STAR, tau = TSTAR5 / T;
-  const Gibbs g = Region5Sums<0, 1>(pi, tau, {std::log(pi), 0, 0, 0, 0, 0}, 9);
+  const Gibbs g = Region5Sums<0, 1, 9>(pi, tau, {std::log(pi), 0, 0, 0, 0, 0});
   return (g.gt * tau - g.g) * RGAS;
 }
 
 double WaterCalculator::H5PT(double p, double T) {
-  const Gibbs g = Region5Sums<0, 1>(p / P5STAR, TSTAR5 / T, {}, 8);
+  const Gibbs g = Region5Sums<0, 1, 8>(p / P5STAR, TSTAR5 / T, {});
   return g.gt * RGAS * 1000.0;
 }
 
 double WaterCalculator::CP5PT(double p, double T) {
   const double tau = TSTAR5 / T;
-  const Gibbs g = Region5Sums<0, 2>(p / P5STAR, tau, {}, 7);
+  const Gibbs g = Region5Sums<0, 2, 7>(p / P5STAR, tau, {});
   return -g.gtt * RGAS * tau * tau;
 }
 
 double WaterCalculator::CV5PT(double p, double T) {
   const double pi = p / P5STAR, tau = TSTAR5 / T;
-  const Gibbs g = Region5Sums<2, 2>(pi, tau, IdealStart(pi, false), 7);
+  const Gibbs g = Region5Sums<2, 2, 7>(pi, tau, IdealStart(pi, false));
   const double d = g.gp - g.gpt * tau;
   return (d * d / g.gpp - g.gtt * tau * tau) * RGAS;
 }
 
 double WaterCalculator::W5PT(double p, double T) {
   const double pi = p / P5STAR, tau = TSTAR5 / T;
-  const Gibbs g = Region5Sums<2, 2>(pi, tau, IdealStart(pi, false), 7);
+  const Gibbs g = Region5Sums<2, 2, 7>(pi, tau, IdealStart(pi, false));
   const double d = g.gp - g.gpt * tau;
   return g.gp * std::sqrt(RGAS * T / (d * d / (g.gtt * tau * tau) - g.gpp));
 }
@@ -86,7 +86,7 @@ double WaterCalculator::JOULETHOMPSON5PT(double p, double T) {
 
 double WaterCalculator::VUSHCVWDERPT5PT(double p, double T, Out14& out) {
   const double pi = p / P5STAR, tau = TSTAR5 / T;
-  const Gibbs g = Region5Sums<2, 2>(pi, tau, IdealStart(pi, true), 7);
+  const Gibbs g = Region5Sums<2, 2, 7>(pi, tau, IdealStart(pi, true));
   GibbsOutputs(g, p, T, tau, P5STAR, TSTAR5, out);
   return 1.0;
 }

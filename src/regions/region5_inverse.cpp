@@ -40,7 +40,7 @@ double WaterCalculator::T5PH(double p, double h) {
   for (;;) {
     const double tau = TSTAR5 / T;
     ++count;
-    const Gibbs g = Region5Pass<0, 2>(tau, {}, 8);
+    const Gibbs g = Region5Pass<0, 2, 8>(tau, {});
     const double step = (g.gt * RGAS * 1000.0 - h) / (g.gtt * RGAS * tau * tau);
     T += step;
     if (count > limit) break;
@@ -62,7 +62,7 @@ double WaterCalculator::T5PS(double p, double s) {
   for (;;) {
     const double tau = TSTAR5 / T;
     ++count;
-    const Gibbs g = Region5Pass<0, 2>(tau, {lnPi, 0, 0, 0, 0, 0}, 9);
+    const Gibbs g = Region5Pass<0, 2, 9>(tau, {lnPi, 0, 0, 0, 0, 0});
     const double step =
         ((g.gt * tau - g.g) * RGAS - s) * T / (g.gtt * RGAS * tau * tau);
     T += step;
@@ -107,7 +107,7 @@ void WaterCalculator::NEWTON5HS(double h, double s, double& p, double& T) {
   const auto gibbs = [this](double pp, double tau) {
     const double pi = pp / P5STAR;
     Region5Pi<1>(pi);
-    return Region5Pass<1, 2>(tau, {std::log(pi), 1.0 / pi, 0, 0, 0, 0}, 7);
+    return Region5Pass<1, 2, 7>(tau, {std::log(pi), 1.0 / pi, 0, 0, 0, 0});
   };
   NewtonHS(gibbs, P5STAR, TSTAR5, h, s, h * engine->tolerance, s * engine->tolerance,
            engine->maxIteration, p, T);
@@ -123,7 +123,7 @@ void WaterCalculator::NEWTON5RH(double rho, double h, double& p, double& T) {
   const auto gibbs = [this](double pp, double tau) {
     const double pi = pp / P5STAR;
     Region5Pi<2>(pi);
-    return Region5Pass<2, 2>(tau, {0, 1.0 / pi, -1.0 / (pi * pi), 0, 0, 0}, 7);
+    return Region5Pass<2, 2, 7>(tau, {0, 1.0 / pi, -1.0 / (pi * pi), 0, 0, 0});
   };
   NewtonRH(gibbs, P5STAR, TSTAR5, rho, h, tolr, tolh, 1300.0, engine->maxIteration, p, T);
 }

@@ -43,6 +43,13 @@ class WaterCalculator {
   double W1PT(double p, double T);
   double JOULETHOMPSON1PT(double p, double T);
   double VUSHCVWDERPT1PT(double p, double T, Out14& out);
+  // H1PT and S1PT at TLOW and at 623.15 K, the bounds that the range rules
+  // and area tests by p,h and p,s evaluate on every call: the same bits,
+  // with the powers of the fixed tau read from tables formed at load.
+  double H1PTLOW(double p);
+  double S1PTLOW(double p);
+  double H1PTR3LOW(double p);
+  double S1PTR3LOW(double p);
 
   // ---- Region 2 by p, T ----
   double V2PT(double p, double T);
@@ -54,6 +61,9 @@ class WaterCalculator {
   double W2PT(double p, double T);
   double JOULETHOMPSON2PT(double p, double T);
   double VUSHCVWDERPT2PT(double p, double T, Out14& out);
+  // H2PT and S2PT at TMID, likewise.
+  double H2PTMID(double p);
+  double S2PTMID(double p);
 
   // ---- Region 5 by p, T ----
   double V5PT(double p, double T);
@@ -392,8 +402,9 @@ class WaterCalculator {
   double WetOrPT(PTCore pt, TXCore wet, double p, double T, double x);
   // The area of (p, y) with y an enthalpy or an entropy: the region 1, 2 and
   // 3 functions of that quantity and the saturated ones.
+  // y1Low and y2Mid are y1 at 623.15 K and y2 at TMID.
   int32_t AreaPY(double p, double y, PTCore y1, PTCore y2, RTCore y3, TCore water, TCore steam,
-                 bool entropy);
+                 TCore y1Low, TCore y2Mid, bool entropy);
   // Region 1 and 2 passes (regions/region1_sums.h, region2_sums.h): FillA
   // fills powerA for a fixed p, Pass refills powerB and sums; Sums and
   // Residual do both.
@@ -418,12 +429,12 @@ class WaterCalculator {
   void NEWTON5RH(double rho, double h, double& p, double& T);
   template <int SA>
   void Region5Pi(double pi);
-  template <int SA, int SB>
-  Gibbs Region5Pass(double tau, Gibbs start, int32_t countB);
+  template <int SA, int SB, int32_t countB>
+  Gibbs Region5Pass(double tau, Gibbs start);
   template <int SA, int SB, int S>
   Gibbs MetastableSums(double pi, double tau);
-  template <int SA, int SB>
-  Gibbs Region5Sums(double pi, double tau, Gibbs start, int32_t countB);
+  template <int SA, int SB, int32_t countB>
+  Gibbs Region5Sums(double pi, double tau, Gibbs start);
   Gibbs Region2Full(double p, double tau);
 
   // Backward equation of the sub-region the state lies in.
@@ -436,3 +447,6 @@ class WaterCalculator {
 };
 
 }  // namespace kvt
+
+// Defined inline there, with the declarations above in sight.
+#include "region3/saturation_line.h"

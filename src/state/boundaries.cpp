@@ -20,21 +20,17 @@ double WaterCalculator::T23P(double p) {
 
 double WaterCalculator::HB13S(double s) {
   const double sigma = s / 3800.0;
-  powerA.Fill(sigma - 0.884, FillCount(HB13I, 0));
-  powerB.Fill(sigma - 0.864, FillCount(HB13J, 0));
-  return 1700000.0 * SumTerms<0, 0>(powerA, powerB, HB13N, HB13I, HB13J).s;
+  return 1700000.0 * BackwardSum<HB13N, HB13I, HB13J>(powerA, sigma - 0.884, powerB, sigma - 0.864);
 }
 
 double WaterCalculator::TB23HS(double h, double s) {
-  powerA.Fill(h / 3000000.0 - 0.727, FillCount(TB23I, 0));
-  powerB.Fill(s / 5300.0 - 0.864, FillCount(TB23J, 0));
-  return 900.0 * SumTerms<0, 0>(powerA, powerB, TB23N, TB23I, TB23J).s;
+  return 900.0 * BackwardSum<TB23N, TB23I, TB23J>(powerA, h / 3000000.0 - 0.727,
+                                                  powerB, s / 5300.0 - 0.864);
 }
 
 double WaterCalculator::PB23HS(double h, double s) {
-  powerA.Fill(h / 3000000.0 - 0.709, FillCount(PB23I, 0));
-  powerB.Fill(s / 5300.0 - 0.824, FillCount(PB23J, 0));
-  return 100000000.0 * SumTerms<0, 0>(powerA, powerB, PB23N, PB23I, PB23J).s;
+  return 100000000.0 * BackwardSum<PB23N, PB23I, PB23J>(powerA, h / 3000000.0 - 0.709,
+                                                        powerB, s / 5300.0 - 0.824);
 }
 
 }  // namespace kvt

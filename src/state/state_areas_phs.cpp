@@ -19,15 +19,15 @@ constexpr double kSCrit = 4412.02148223476;  // critical entropy, J/(kg K)
 using W = WaterCalculator;
 
 int32_t W::AreaPY(double p, double y, PTCore y1, PTCore y2, RTCore y3, TCore water, TCore steam,
-                  bool entropy) {
+                  TCore y1Low, TCore y2Mid, bool entropy) {
   const double k = 1 + engine->tolerance;
   if (p > PCRIT) {
-    if ((this->*y1)(p, kTR3Low) >= y * k) return 1;
+    if ((this->*y1Low)(p) >= y * k) return 1;
     if ((this->*y2)(p, T23P(p)) > y * k) return 3;
     return 2;
   }
   if (p < PSAT350) {
-    if (p <= P5MAX && (this->*y2)(p, TMID) * k < y) return 5;
+    if (p <= P5MAX && (this->*y2Mid)(p) * k < y) return 5;
     const double Ts = TSP(p);
     if (entropy) {
       // The liquid side is tested first by entropy.
@@ -50,11 +50,13 @@ int32_t W::AreaPY(double p, double y, PTCore y1, PTCore y2, RTCore y3, TCore wat
 }
 
 int32_t W::WATERSTATEAREAPH(double p, double h) {
-  return AreaPY(p, h, &W::H1PT, &W::H2PT, &W::H3RT, &W::HSWT, &W::HSST, false);
+  return AreaPY(p, h, &W::H1PT, &W::H2PT, &W::H3RT, &W::HSWT, &W::HSST, &W::H1PTR3LOW,
+                &W::H2PTMID, false);
 }
 
 int32_t W::WATERSTATEAREAPS(double p, double s) {
-  return AreaPY(p, s, &W::S1PT, &W::S2PT, &W::S3RT, &W::SSWT, &W::SSST, true);
+  return AreaPY(p, s, &W::S1PT, &W::S2PT, &W::S3RT, &W::SSWT, &W::SSST, &W::S1PTR3LOW,
+                &W::S2PTMID, true);
 }
 
 int32_t W::WATERSTATEAREAHS(double h, double s) {

@@ -15,8 +15,12 @@ using namespace transport;
 // whose factor S switches form at t = 1 with a step, as the release has it.
 double WaterCalculator::THERMCONDRT(double rho, double T) {
   const double t = T / TSTARK, r = rho / RHOSTARK;
-  double l0 = 0;
-  for (int k = 0; k < 4; ++k) l0 += K0A[k] * std::pow(t, k + 0.5);
+  double l0 = 0, t15 = 0;
+  for (int k = 0; k < 4; ++k) {
+    const double power = std::pow(t, k + 0.5);
+    if (k == 1) t15 = power;  // t^1.5 returns in the last term of L2
+    l0 += K0A[k] * power;
+  }
   const double x = r + 2.39219;
   const double l1 = -0.39707 + 0.400302 * r + 1.06 * std::exp(-0.171587 * (x * x));
 
@@ -29,7 +33,7 @@ double WaterCalculator::THERMCONDRT(double rho, double T) {
   const double l2 =
       (0.0701309 / t10 + 0.011852) * std::pow(r, 1.8) * std::exp(0.642857 * (1.0 - std::pow(r, 2.8))) +
       0.00169937 * s * std::pow(r, q) * std::exp((q / (1.0 + q)) * (1.0 - std::pow(r, 1.0 + q))) -
-      1.02 * std::exp(-4.11717 * std::pow(t, 1.5) - 6.17937 / r5);
+      1.02 * std::exp(-4.11717 * t15 - 6.17937 / r5);
   return l0 + l1 + l2;
 }
 
@@ -39,9 +43,8 @@ double WaterCalculator::DYNVISRT(double rho, double T) {
   const double t = T / TSTARMU, r = rho / RHOSTARMU;
   const double t2 = t * t, t3 = t2 * t;
   const double mu0 = std::sqrt(t) / (MU0H[0] + MU0H[1] / t + MU0H[2] / t2 + MU0H[3] / t3);
-  powerA.Fill(1.0 / t - 1.0, FillCount(MU1I, 0));
-  powerB.Fill(r - 1.0, FillCount(MU1J, 0));
-  const double e = SumTerms<0, 0>(powerA, powerB, MU1H, MU1I, MU1J).s;
+  const double e =
+      BackwardSum<MU1H, MU1I, MU1J>(powerA, 1.0 / t - 1.0, powerB, r - 1.0);
   return MUSTAR * mu0 * std::exp(r * e);
 }
 
