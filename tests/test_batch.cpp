@@ -308,7 +308,8 @@ TEST_F(Batch, PairAndFourteenOutputs) {
     const kvtFunctionInfo* fn = kvtFunctionFind(name);
     ASSERT_EQ(fn->outputs, 2);
     kvtEvalRow(e, fn, nullptr, 3, hs, nullptr, outs, codes, 1);
-    auto f = reinterpret_cast<double (*)(double, double, double*, double*)>(kExports[fn - kvtFunctionAt(0)].fn);
+    using Pair = double (*)(double, double, double*, double*);
+    const auto f = reinterpret_cast<Pair>(kExports[fn - kvtFunctionAt(0)].fn);
     for (int k = 0; k < 3; ++k) {
       double a = 0, b = 0;
       const double r = f(h[k], s[k], &a, &b);
@@ -321,8 +322,6 @@ TEST_F(Batch, PairAndFourteenOutputs) {
   const double p[3] = {1e5, 3e6, 1e5}, T[3] = {400, 500, 50};
   const double* pt[2] = {p, T};
   const kvtFunctionInfo* many = kvtFunctionFind("kvtVUSHCVWDERPTPT");
-  ASSERT_EQ(many->outputs, 14);
-  EXPECT_STREQ(many->outputNames[13], "cp");
   EXPECT_EQ(kvtEvalRow(e, many, nullptr, 3, pt, nullptr, outs, codes, 1), 1);
   for (int k = 0; k < 2; ++k) {
     double w[14];
@@ -346,12 +345,7 @@ TEST_F(Batch, FunctionsFromTheCatalogue) {
     for (char& c : lower) c = char(std::tolower(c));
     EXPECT_EQ(kvtFunctionFind(lower.c_str()), fn);
   }
-  const kvtFunctionInfo* gas = kvtFunctionFind("gSGSPT");
-  EXPECT_EQ(gas->ordinal, 407);
-  EXPECT_EQ(gas->gas, 2);
-  EXPECT_EQ(gas->inputs, 3);
-  EXPECT_STREQ(gas->inputUnits[1], "Pa");
-  EXPECT_STREQ(gas->outputUnits[0], "J/(kg K)");
+  // The fields themselves: check_function_info.py, against tools/catalogue.py.
   EXPECT_EQ(kvtFunctionFind("kvtkvtHPT"), nullptr);
   EXPECT_EQ(kvtFunctionFind(nullptr), nullptr);
   for (int32_t code : {0, 1, 2, 3, 4, 8, 11}) EXPECT_STRNE(kvtErrorMessage(code), "unknown error");

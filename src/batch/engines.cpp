@@ -3,7 +3,6 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
-#include <new>
 
 #include "batch/batch.h"
 #include "frame/guarded_call.h"
@@ -36,11 +35,18 @@ bool IsInt32(double x) {
 
 extern "C" {
 
-kvtEngine* kvtEngineNew(void) { return new (std::nothrow) kvtEngine(); }
+// Building the gases allocates; short of memory, no engine.
+kvtEngine* kvtEngineNew(void) {
+  try {
+    return new kvtEngine();
+  } catch (...) {
+    return nullptr;
+  }
+}
 
 kvtEngine* kvtEngineClone(const kvtEngine* e) {
   if (!e) return nullptr;
-  kvtEngine* clone = new (std::nothrow) kvtEngine();
+  kvtEngine* clone = kvtEngineNew();
   if (!clone) return nullptr;
   try {
     clone->CopySettingsFrom(*e);

@@ -67,8 +67,8 @@ int64_t Split(kvtEngine& e, Loop loop, const Job& job, int32_t workers, bool gas
   for (std::thread& t : threads) t.join();
   int64_t failed = 0;
   for (const Tally& t : tallies) failed += t.failed;
-  // The engine's last error is that of the last point, as after a loop of
-  // exports; the worker that evaluated it holds it.
+  // The engine's last error is the code of the last point, as after a loop
+  // of exports; the worker that evaluated it holds it.
   e.lastError = 0;
   for (const Tally& t : tallies)
     if (t.lastCode != 0) e.lastError = t.lastCode;
@@ -126,6 +126,7 @@ int64_t Evaluate(kvtEngine* e, int32_t row, const char* gas, size_t n, const dou
   if (workers == 1) {
     Tally tally;
     loop(*e, job, 0, n, tally);
+    e->lastError = tally.lastCode;
     return tally.failed;
   }
   return Split(*e, loop, job, workers, fn->gas != 0);

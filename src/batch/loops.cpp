@@ -23,16 +23,17 @@ inline void Put(const Job& j, size_t k, double r, int32_t code, Tally& t) {
   }
   j.outs[0][k] = r;
   if (j.codes) j.codes[k] = code;
-  if (k + 1 == j.n) t.lastCode = code;
 }
 
-// Rows whose result is one number.
+// Rows whose result is one number. The engine's code after the last point
+// of the call is the call's last error.
 template <auto Point>
 void Each(Engine& e, const Job& j, size_t begin, size_t end, Tally& t) {
   for (size_t k = begin; k < end; ++k) {
     const double r = Point(e, j, k);
     Put(j, k, r, e.lastError, t);
   }
+  if (end == j.n && end > begin) t.lastCode = e.lastError;
 }
 
 // The points of each shape, as the exports in frame/exports.cpp call them.
@@ -92,7 +93,7 @@ inline void PutAll(const Job& j, size_t k, int outputs, const double* o, bool ok
   }
   for (int i = 0; i < outputs; ++i) j.outs[i][k] = ok ? o[i] : kNaN;
   if (j.codes) j.codes[k] = code;
-  if (k + 1 == j.n) t.lastCode = code;
+  if (k + 1 == j.n) t.lastCode = code;  // the point's code, 1 for a non-finite output
 }
 
 template <class R, auto C>
