@@ -61,6 +61,15 @@ template <class F> F Export(const std::string& name, const char* shape) {
 }
 inline Fn D2(const std::string& name) { return Export<Fn>(name, "D2"); }
 inline Fn1 D1(const std::string& name) { return Export<Fn1>(name, "D1"); }
+// An export of one or two numbers by name, with a and b as it takes them.
+inline double Call(const std::string& name, double a, double b) {
+  for (const Row& r : kRows) {
+    if ("kvt" + name != r.name) continue;
+    if (std::strcmp(r.shape, "D1") == 0) return reinterpret_cast<Fn1>(r.fn)(a);
+    if (std::strcmp(r.shape, "D2") == 0) return reinterpret_cast<Fn>(r.fn)(a, b);
+  }
+  throw std::invalid_argument("no D1 or D2 export kvt" + name);
+}
 
 }  // namespace kvt_test
 
