@@ -121,8 +121,9 @@ TEST_F(Inversions, RoundTripsThroughTheForwardEquations) {
       ASSERT_EQ(Export<Pair>("PT" + r + "HS", "P2")(h0, s0, &p, &T), 1.0);
       EXPECT_REL(p, p0, 1e-9);
       EXPECT_REL(T, T0, g.pairT);
-      EXPECT_NEAR(h(p, T), h0, std::fabs(h0) * 1e-11 + 1e-6);
-      EXPECT_NEAR(s(p, T), s0, std::fabs(s0) * 1e-11 + 1e-9);
+      const bool floor = r == "1";  // region 1 h and s pass through zero near 273 K
+      EXPECT_NEAR(h(p, T), h0, std::fabs(h0) * 1e-11 + (floor ? 1e-6 : 0));
+      EXPECT_NEAR(s(p, T), s0, std::fabs(s0) * 1e-11 + (floor ? 1e-9 : 0));
       if (r != "5") {
         EXPECT_EQ(D2("P" + r + "HS")(h0, s0), p);
         EXPECT_EQ(D2("T" + r + "HS")(h0, s0), T);
