@@ -7,8 +7,8 @@ need() {
   if [ ${#missing[@]} -gt 0 ]; then
     echo "== installing ${missing[*]}"
     export DEBIAN_FRONTEND=noninteractive
-    if [ -z "${KVT_APT_UPDATED:-}" ]; then apt-get update -qq; KVT_APT_UPDATED=1; fi
-    apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+    if [ -z "${KVT_APT_UPDATED:-}" ]; then apt-get update -qq -o DPkg::Lock::Timeout=600; KVT_APT_UPDATED=1; fi
+    apt-get install -y -qq --no-install-recommends -o DPkg::Lock::Timeout=600 "${missing[@]}" >/dev/null
   fi
 }
 

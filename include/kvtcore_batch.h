@@ -54,13 +54,16 @@ KVT_BATCH_API kvtEngine* kvtEngineClone(const kvtEngine* e);
 KVT_BATCH_API void kvtEngineFree(kvtEngine* e);
 
 /* Settings by name: "tolerance", "toleranceMode", "checkRangeMode",
-   "maxIteration". Set returns 0, or 1 for an unknown name or a null engine;
-   the value is stored as the export's setter stores it. Get returns the
-   value, or NaN for an unknown name or a null engine. */
+   "maxIteration". Set returns 0, or 1 for an unknown name, a null engine, or
+   a value that is no 32-bit integer for the three integer settings; the
+   value is stored as the export's setter stores it (and the engine's last
+   error set as the setter sets it: a NaN tolerance is stored and gives 1).
+   Get returns the value, or NaN for an unknown name or a null engine. */
 KVT_BATCH_API int32_t kvtEngineSet(kvtEngine* e, const char* setting, double value);
 KVT_BATCH_API double kvtEngineGet(const kvtEngine* e, const char* setting);
 
-/* The code of the engine's last failure: 0 after a successful call. */
+/* The code of the engine's last failure: 0 after a successful call; after
+   kvtEval and its kin, the code of the last point. -1 for a null engine. */
 KVT_BATCH_API int32_t kvtEngineLastError(const kvtEngine* e);
 
 /* Gases of one engine: registers a gas-spec text (as kvtgNEWIDGS does) and
@@ -77,7 +80,8 @@ typedef struct kvtFunctionInfo {
   const char* shape;          /* call shape, see kvtcore.h: "D2", "GS1", "P2", ... */
   const char* rule;           /* range rule: "PT", "None", ... */
   const char* result;         /* what it returns, with the unit: "enthalpy [J/kg]" */
-  int32_t gas;                /* 0 water, 1 gas by id, 2 gas by text */
+  int32_t gas;                /* 0 water and the library; a gas function:
+                                 2 if it takes gas texts, else 1 (by id) */
   int32_t evaluable;          /* 1: numbers in, one number out, no side effect:
                                  kvtEval takes it (and kvtEvalRow) */
   int32_t inputs;             /* arguments the caller gives, the gas included */
@@ -109,13 +113,20 @@ KVT_BATCH_API const char* kvtErrorMessage(int32_t code);
    be null) gets each point's error code, 0 on success. threads: 1 runs on the
    calling thread, 0 on every core, m on m threads. Returns the number of
    failed points; -1 with nothing written for an unknown name, a function that
-   is not evaluable over arrays, or a null engine, args or out. */
+   is not evaluable over arrays (or takes a gas text: see kvtEvalGas), a null
+   engine or out, null args for a function that has numeric arguments, a null
+   args[i], or threads below 0. Points are independent: whatever threads is,
+   each gives what the export gives under the engine's settings and gases.
+   One engine must not be used by two threads at once, also not here. */
 KVT_BATCH_API int64_t kvtEval(kvtEngine* e, const char* name, size_t n,
                               const double* const* args, const size_t* strides,
                               double* out, int32_t* codes, int32_t threads);
 
 /* The same for the gas functions by text: `gas` is the gas-spec text of
-   every point, args are the function's remaining arguments. */
+   every point, args are the function's remaining arguments. The text is read
+   once per call, on e, which keeps it in its cache as a loop of exports
+   would. The two functions of a pair of texts (kvtgVFGSGS, kvtgMFGSGS) take
+   both in `gas`, separated by '|': "N2:0.79;O2:0.21|O2". */
 KVT_BATCH_API int64_t kvtEvalGas(kvtEngine* e, const char* name, const char* gas, size_t n,
                                  const double* const* args, const size_t* strides,
                                  double* out, int32_t* codes, int32_t threads);

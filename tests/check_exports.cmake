@@ -1,6 +1,7 @@
 # Compares the dynamic symbols of the shared library whose names begin with
-# "kvt" with the names of the catalogue in the public header: none missing,
-# none extra.
+# "kvt" with the names of the catalogue in the public header and, when
+# BATCH_HEADER is given, the functions that the engines-and-arrays header
+# declares: none missing, none extra.
 file(READ "${HEADER}" header)
 string(REGEX MATCHALL "X\\([0-9]+, kvt[A-Za-z0-9]+," rows "${header}")
 set(expected "")
@@ -8,6 +9,14 @@ foreach(row IN LISTS rows)
   string(REGEX REPLACE "X\\([0-9]+, (kvt[A-Za-z0-9]+)," "\\1" name "${row}")
   list(APPEND expected "${name}")
 endforeach()
+if(BATCH_HEADER)
+  file(READ "${BATCH_HEADER}" batch)
+  string(REGEX MATCHALL "KVT_BATCH_API [^;]*[ *](kvt[A-Za-z0-9]+)\\(" declared "${batch}")
+  foreach(decl IN LISTS declared)
+    string(REGEX REPLACE ".*[ *](kvt[A-Za-z0-9]+)\\($" "\\1" name "${decl}")
+    list(APPEND expected "${name}")
+  endforeach()
+endif()
 list(SORT expected)
 execute_process(COMMAND nm -D --defined-only "${LIB}" OUTPUT_VARIABLE symbols RESULT_VARIABLE rc)
 if(NOT rc EQUAL 0)

@@ -14,6 +14,14 @@ EngineBase::EngineBase()
       errorText{},
       errorTextW{} {}
 
+void EngineBase::CopySettingsFrom(const EngineBase& from) {
+  maxIteration = from.maxIteration;
+  tolerance = from.tolerance;
+  checkRangeMode = from.checkRangeMode;
+  toleranceMode = from.toleranceMode;
+  calcDissMode = from.calcDissMode;
+}
+
 // Members are built in order, each with a back reference to the engine.
 Engine::Engine() : water(this), ice(this), gas(this) {}
 

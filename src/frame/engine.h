@@ -13,6 +13,9 @@ namespace kvt {
 // The plain members, with their defaults.
 struct EngineBase {
   EngineBase();
+  // Takes the settings of another engine; the last error and the text
+  // buffers stay this engine's own.
+  void CopySettingsFrom(const EngineBase& from);
 
   int32_t lastError;
   int32_t maxIteration;

@@ -51,10 +51,11 @@ template <class R> inline R FailureResult() {
 }
 
 // Scalar, integer, setter, text and pair shapes: the core takes the export's
-// arguments, with the pair's pointers as references.
+// arguments, with the pair's pointers as references. GuardedOn runs on the
+// engine it is given (an engine of the array interface); Guarded, the road of
+// the exports, on the global engine.
 template <class R, class Rule, auto Core, class... A>
-R Guarded(A... a) {
-  Engine& e = engine();
+R GuardedOn(Engine& e, A... a) {
   if constexpr (std::is_same_v<Rule, rules::Plain>) {
     // The last-error functions: no clearing, but still nothing escapes.
     try {
@@ -98,28 +99,41 @@ R Guarded(A... a) {
   }
 }
 
+template <class R, class Rule, auto Core, class... A>
+R Guarded(A... a) {
+  return GuardedOn<R, Rule, Core, A...>(engine(), a...);
+}
+
 // Output pointers are the caller's; a null one gets a scratch slot instead of
 // a crash.
 inline double& OutSlot(double* p, double& scratch) { return p ? *p : scratch; }
 
 template <class Rule, auto Core, class... A>
-double GuardedPair(A... a, double* o1, double* o2) {
+double GuardedPairOn(Engine& e, A... a, double* o1, double* o2) {
   double s1 = 0, s2 = 0;
-  return Guarded<double, Rule, Core, A..., double&, double&>(a..., OutSlot(o1, s1),
-                                                             OutSlot(o2, s2));
+  return GuardedOn<double, Rule, Core, A..., double&, double&>(e, a..., OutSlot(o1, s1),
+                                                               OutSlot(o2, s2));
+}
+template <class Rule, auto Core, class... A>
+double GuardedPair(A... a, double* o1, double* o2) {
+  return GuardedPairOn<Rule, Core, A...>(engine(), a..., o1, o2);
 }
 
 // Many-output shape: the core fills fourteen doubles, which reach the
 // caller's pointers after a successful call.
 template <class Rule, auto Core, class... A>
-double GuardedMany(A... a, double* const (&o)[14]) {
+double GuardedManyOn(Engine& e, A... a, double* const (&o)[14]) {
   Out14 r = {};
-  double result = Guarded<double, Rule, Core, A..., Out14&>(a..., r);
-  if (engine().lastError == 0 && result != -1.0) {
+  double result = GuardedOn<double, Rule, Core, A..., Out14&>(e, a..., r);
+  if (e.lastError == 0 && result != -1.0) {
     for (int i = 0; i < 14; ++i)
       if (o[i]) *o[i] = r[i];
   }
   return result;
+}
+template <class Rule, auto Core, class... A>
+double GuardedMany(A... a, double* const (&o)[14]) {
+  return GuardedManyOn<Rule, Core, A...>(engine(), a..., o);
 }
 
 }  // namespace kvt

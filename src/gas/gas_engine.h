@@ -68,6 +68,12 @@ class GasEngine {
   int32_t GasesCount() const { return static_cast<int32_t>(idMap.size()); }
   const char* GasText(const GasRecord& record);
 
+  // Makes this registry a copy of another engine's: the same ids, names,
+  // cached texts and next id, on records of this engine with the same
+  // numbers. Mixtures are copied with their components, deleted gases that a
+  // mixture still holds included.
+  void CopyFrom(const GasEngine& from);
+
   // ---- Cores of the exports ----
   // A property of the gas of an id or of a text: look the gas up, then run
   // one operation of its record. The range rule has already seen T.
@@ -112,6 +118,9 @@ class GasEngine {
   std::unordered_map<int32_t, GasRecord*> idMap;  // one reference per entry
   NoCaseMap<GasRecord*> nameMap;                  // no references of its own
   GasSpecCache specCache;
+  // The text that kvtgGSID and kvtgGSGS return, valid to the next such call.
+  static constexpr size_t kGasTextSize = 4667;
+  char gasText[kGasTextSize] = {};
 
  private:
   void Register(int32_t id, GasRecord* record);  // takes over one reference

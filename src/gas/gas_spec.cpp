@@ -26,10 +26,6 @@ constexpr const char* kWhite = " \t\n\v\f\r";
 // What a number may be made of; the blank is here so that a blank before
 // the number falls away.
 constexpr const char* kNumberChars = "01234567890., eE-+";
-constexpr size_t kGasTextSize = 4667;
-
-char gasTextBuffer[kGasTextSize];
-
 std::string Trim(const std::string& s) {
   const size_t first = s.find_first_not_of(kWhite);
   if (first == std::string::npos) return std::string();
@@ -304,8 +300,8 @@ const char* GasEngine::GasText(const GasRecord& record) {
     if (text.size() >= kGasTextSize) raise(1);  // too long already: stop writing
   }
   if (text.size() >= kGasTextSize) raise(1);
-  std::memcpy(gasTextBuffer, text.c_str(), text.size() + 1);
-  return gasTextBuffer;
+  std::memcpy(gasText, text.c_str(), text.size() + 1);
+  return gasText;
 }
 
 }  // namespace kvt
