@@ -12,7 +12,7 @@ cd "$(dirname "$0")/.."
 seconds="${1:-60}"
 shift || true
 targets=("$@")
-[ ${#targets[@]} -gt 0 ] || targets=(fuzz_exports fuzz_gas_text)
+[ ${#targets[@]} -gt 0 ] || targets=(fuzz_exports fuzz_gas_text fuzz_batch)
 status=0
 for target in "${targets[@]}"; do
   seeds="fuzz/corpus/${target#fuzz_}"
