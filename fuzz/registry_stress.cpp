@@ -24,7 +24,8 @@
 #endif
 #endif
 #ifdef KVT_ASAN
-#include <sanitizer/allocator_interface.h>
+// From the sanitizer runtime (g++ ships no header that declares it).
+extern "C" size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace {

@@ -21,11 +21,11 @@ for target in "${targets[@]}"; do
   dict=()
   [ -f "fuzz/${target#fuzz_}.dict" ] && dict=(-dict="fuzz/${target#fuzz_}.dict")
   echo "== $target for $seconds s"
-  # Leaks are checked per input; a call that runs past 10 s is a fault.
+  # Leaks are checked per input; an input that runs past 30 s is a fault.
   if ! UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
       ASAN_OPTIONS=detect_leaks=1:allocator_may_return_null=1 \
       "build/fuzz/fuzz/$target" "$work" "$seeds" "${dict[@]}" -max_total_time="$seconds" \
-      -timeout=10 -rss_limit_mb=3072 -max_len=4096 -print_final_stats=1 \
+      -timeout=30 -rss_limit_mb=3072 -max_len=4096 -print_final_stats=1 \
       -artifact_prefix="build/fuzz/$target-" 2>"build/fuzz/$target.log"; then
     tail -n 60 "build/fuzz/$target.log"
     status=1
