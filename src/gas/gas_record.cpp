@@ -4,6 +4,8 @@
 
 #include <cmath>
 #include <cstring>
+#include <unordered_set>
+#include <vector>
 
 #include "frame/engine.h"
 #include "frame/raise.h"
@@ -98,11 +100,24 @@ void GasRecord::SetUp(const GasRow& row) {
   FitEntropyQuadratic();
 }
 
+// A mixture releases its components when it goes, and they theirs: walked
+// with a list rather than by recursion, so that no nesting depth can exhaust
+// the host's stack.
 void GasRecord::Release() {
   if (--referenceCount != 0) return;
-  for (auto& entry : components) entry.first->Release();
-  components.clear();
-  delete this;
+  if (components.empty()) {
+    delete this;
+    return;
+  }
+  std::vector<GasRecord*> dying{this};
+  while (!dying.empty()) {
+    GasRecord* record = dying.back();
+    dying.pop_back();
+    for (auto& entry : record->components)
+      if (--entry.first->referenceCount == 0) dying.push_back(entry.first);
+    record->components.clear();
+    delete record;
+  }
 }
 
 // A parabola T(s) through the entropies at 300, 1500 and 2500 K: only the
@@ -169,7 +184,7 @@ template <bool BySEntropy>
 double GasRecord::Newton(double y, double T) const {
   const double limit = std::fabs(y * engine->tolerance);
   const int32_t m = engine->maxIteration;
-  int32_t i = 0;
+  int64_t i = 0;  // wider than the cap, so that it cannot overflow at any cap
   for (;;) {
     ++i;
     const double c = Cp(T);
@@ -249,29 +264,68 @@ int32_t GasRecord::AddByMass(GasRecord& c, double m) {
   return static_cast<int32_t>(components.size());
 }
 
+// Every walk over nested mixtures below uses a list of its own instead of
+// recursion (no depth can exhaust the stack) and visits each distinct record
+// once (a mixture that holds another through many paths costs no more than
+// its distinct components).
 bool GasRecord::ContainsGas(const GasRecord& other) const {
   if (&other == this) return true;
+  if (components.empty()) return false;
   if (components.count(const_cast<GasRecord*>(&other))) return true;
-  for (const auto& entry : components)
-    if (entry.first->ContainsGas(other)) return true;
+  std::vector<const GasRecord*> todo{this};
+  std::unordered_set<const GasRecord*> seen{this};
+  while (!todo.empty()) {
+    const GasRecord* record = todo.back();
+    todo.pop_back();
+    for (const auto& entry : record->components) {
+      if (entry.first == &other) return true;
+      if (seen.insert(entry.first).second) todo.push_back(entry.first);
+    }
+  }
   return false;
 }
 
-// Both fractions look through nesting to any depth.
-double GasRecord::VolumeFractionOf(const GasRecord& other) const {
+// The share of other in this record: 1 in itself, else the sum over the
+// direct components, in their order, of a component's share times its
+// amount, divided by the total. Each record's share is computed once and
+// remembered, with the same operations in the same order as the plain
+// recursive definition, so the numbers are the same to the bit.
+double GasRecord::FractionOf(const GasRecord& other, double GasComponentAmount::*amount,
+                             double GasRecord::*total) const {
   if (&other == this) return 1;
-  double sum = 0;
-  for (const auto& entry : components)
-    sum += entry.first->VolumeFractionOf(other) * entry.second.moles;
-  return sum / totalMoles;
+  std::unordered_map<const GasRecord*, double> known{{&other, 1.0}};
+  struct Frame {
+    const GasRecord* record;
+    std::unordered_map<GasRecord*, GasComponentAmount>::const_iterator next;
+    double sum;
+  };
+  std::vector<Frame> stack{{this, components.begin(), 0.0}};
+  for (;;) {
+    Frame& top = stack.back();
+    if (top.next != top.record->components.end()) {
+      const GasRecord* c = top.next->first;
+      auto found = known.find(c);
+      if (found == known.end()) {
+        stack.push_back({c, c->components.begin(), 0.0});
+      } else {
+        top.sum += found->second * (top.next->second.*amount);
+        ++top.next;
+      }
+      continue;
+    }
+    const double share = top.sum / (top.record->*total);
+    known.emplace(top.record, share);
+    stack.pop_back();
+    if (stack.empty()) return share;
+  }
+}
+
+double GasRecord::VolumeFractionOf(const GasRecord& other) const {
+  return FractionOf(other, &GasComponentAmount::moles, &GasRecord::totalMoles);
 }
 
 double GasRecord::MassFractionOf(const GasRecord& other) const {
-  if (&other == this) return 1;
-  double sum = 0;
-  for (const auto& entry : components)
-    sum += entry.first->MassFractionOf(other) * entry.second.mass;
-  return sum / totalMass;
+  return FractionOf(other, &GasComponentAmount::mass, &GasRecord::totalMass);
 }
 
 }  // namespace kvt

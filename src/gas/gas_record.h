@@ -98,6 +98,8 @@ class GasRecord {
   double Entropy0(double t) const;  // R (J(t) + mixing + offset)
   template <bool BySEntropy>
   double Newton(double y, double T) const;
+  double FractionOf(const GasRecord& other, double GasComponentAmount::*amount,
+                    double GasRecord::*total) const;
 };
 
 }  // namespace kvt

@@ -7,6 +7,7 @@
 //   target := gas name | "{" spec "}"
 //   amount := number | number unit     (no blank between them)
 //   unit   := V | % (volume)  M | KG | G (mass)          case is ignored
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -38,8 +39,11 @@ std::string UpperCase(std::string s) {
 }
 
 // Whether a decimal text out of range lies below the smallest double (it
-// then reads as zero) rather than above the largest.
+// then reads as zero) rather than above the largest. The decimal exponent of
+// the first significant digit is counted with the written exponent held to
+// a bound far beyond any double's, so that no length of digits overflows it.
 bool Underflows(const char* first, const char* last) {
+  constexpr long long kBound = 1000000000;  // |exponent| beyond any double's
   long long place = 0;  // decimal exponent of the first significant digit
   bool seen = false, point = false;
   const char* p = first;
@@ -51,13 +55,20 @@ bool Underflows(const char* first, const char* last) {
       seen = true;
       if (point) --place;
     } else if (seen && !point) {
-      ++place;
+      place = std::min(place + 1, kBound);
     } else if (!seen && point) {
-      --place;
+      place = std::max(place - 1, -kBound);
     }
   }
   long long exponent = 0;
-  if (p < last && (*p == 'e' || *p == 'E')) exponent = std::strtoll(p + 1, nullptr, 10);
+  if (p < last && (*p == 'e' || *p == 'E')) {
+    ++p;
+    const bool negative = p < last && *p == '-';
+    if (p < last && (*p == '-' || *p == '+')) ++p;
+    for (; p < last && *p >= '0' && *p <= '9'; ++p)
+      exponent = std::min(exponent * 10 + (*p - '0'), kBound);
+    if (negative) exponent = -exponent;
+  }
   return !seen || place + exponent < 0;
 }
 
@@ -262,6 +273,12 @@ void GasEngine::ReadItem(GasRecord& mixture, const std::string& piece) {
     gas = GetByName(target.c_str());
   if (byMass) n = m / gas->molarMass;
   else m = gas->molarMass * n;
+  // An amount past the largest double, alone or added to what the mixture
+  // holds, would blend to nonsense in silence: it is refused like a number
+  // that cannot be read.
+  if (std::isinf(n) || std::isinf(m) || std::isinf(mixture.totalMoles + n) ||
+      std::isinf(mixture.totalMass + m))
+    raise(11);
   mixture.AddComponent(*gas, n, m);
 }
 
@@ -280,6 +297,7 @@ const char* GasEngine::GasText(const GasRecord& record) {
     }
     const double x = record.VolumeFractionOf(*gas);
     if (x != 0 && std::isfinite(x)) text += std::string(gas->name.get()) + ":" + FormatFraction(x) + ";";
+    if (text.size() >= kGasTextSize) raise(1);  // too long already: stop writing
   }
   if (text.size() >= kGasTextSize) raise(1);
   std::memcpy(gasText, text.c_str(), text.size() + 1);

@@ -212,7 +212,7 @@ double WaterCalculator::R3PTR0(double p, double T, double rho0) {
   using namespace region3;
   const double tau = TC / T;
   const double threshold = p * engine->tolerance;
-  int32_t pass = 0;
+  int64_t pass = 0;  // wider than any cap: cannot overflow
   double rho = rho0;
   for (;;) {
     const double delta = rho / RHOC;

@@ -139,7 +139,7 @@ double WaterCalculator::R3PHSOLVE(double p, double h, double& rho, double& T) {
   }
   if (engine->toleranceMode == 0) return 1.0;
   const double tolRho = engine->tolerance * rho, tolT = engine->tolerance * T;
-  int32_t pass = 0;
+  int64_t pass = 0;  // wider than any cap: cannot overflow
   for (;;) {
     ++pass;
     const State3 st = Evaluate<false>(powerA, powerB, rho, T, true);
@@ -168,7 +168,7 @@ double WaterCalculator::R3PSSOLVE(double p, double s, double& rho, double& T) {
   }
   if (engine->toleranceMode == 0) return 1.0;
   const double tolRho = engine->tolerance * rho, tolT = engine->tolerance * T;
-  int32_t pass = 0;
+  int64_t pass = 0;  // wider than any cap: cannot overflow
   for (;;) {
     ++pass;
     const State3 st = Evaluate<true>(powerA, powerB, rho, T, true);
@@ -190,7 +190,7 @@ double WaterCalculator::R3PSSOLVE(double p, double s, double& rho, double& T) {
 // last pass is kept.
 void WaterCalculator::R3HSSOLVE(double h, double s, double& rho, double& T) {
   const double tolH = engine->tolerance * h, tolS = engine->tolerance * s;
-  int32_t pass = 0;
+  int64_t pass = 0;  // wider than any cap: cannot overflow
   for (;;) {
     ++pass;
     const State3 st = Evaluate<true>(powerA, powerB, rho, T, true);
@@ -291,7 +291,7 @@ double WaterCalculator::T3RH(double rho, double h) {
   const double threshold = engine->tolerance * h;
   powerA.Fill<9>(rho / RHOC);
   double T = 743.15;
-  int32_t pass = 0;
+  int64_t pass = 0;  // wider than any cap: cannot overflow
   for (;;) {
     ++pass;
     const State3 st = Evaluate<false>(powerA, powerB, rho, T, false);

@@ -123,7 +123,7 @@ double W::XSTJOULETHOMPSON(double T, double y) {
 void W::BisectWet(double h, double s, double low, double high, double& T, double& x) {
   const double threshold = h * engine->tolerance;
   const int32_t limit = engine->maxIteration;
-  int32_t count = 0;
+  int64_t count = 0;  // wider than any cap: cannot overflow
   for (;;) {
     T = (low + high) / 2;
     ++count;

@@ -20,7 +20,7 @@ template <class GibbsAt>
 void NewtonHS(GibbsAt gibbs, double pstar, double tstar, double h, double s, double tolh,
               double tols, int32_t limit, double& p, double& T) {
   const double c = RGAS / pstar;
-  for (int32_t count = 1;; ++count) {
+  for (int64_t count = 1;; ++count) {
     const double tau = tstar / T;
     const Gibbs g = gibbs(p, tau);
     const double vT = (g.gp - g.gpt * tau) * c;
@@ -46,7 +46,7 @@ template <class GibbsAt>
 void NewtonRH(GibbsAt gibbs, double pstar, double tstar, double density, double h, double tolr,
               double tolh, double restartT, int32_t limit, double& p, double& T) {
   const double c = RGAS / pstar;
-  for (int32_t count = 1;; ++count) {
+  for (int64_t count = 1;; ++count) {
     const double tau = tstar / T;
     const Gibbs g = gibbs(p, tau);
     const double v = c * T * g.gp;

@@ -30,7 +30,7 @@ double WaterCalculator::P1HSBACK(double h, double s) {
 // the stop held on the last allowed pass), and with range checks on a result
 // just under the lowest temperature, by no more than the band, is pulled onto
 // it; a result above it stays, however near.
-static double FinishRegion1(const Engine& e, double T, double tol, int32_t count, int32_t limit) {
+static double FinishRegion1(const Engine& e, double T, double tol, int64_t count, int32_t limit) {
   if (count >= limit) raise(3);
   if (e.checkRangeMode != 0 && std::fabs(TLOW - T) <= tol && T < TLOW) T = TLOW;
   return T;
@@ -41,7 +41,7 @@ double WaterCalculator::T1PH(double p, double h) {
   if (engine->toleranceMode == 0) return T;
   const double tol = T * engine->tolerance;
   const int32_t limit = engine->maxIteration;
-  int32_t count = 0;
+  int64_t count = 0;  // wider than any cap: cannot overflow
   Region1FillA<0>(p);
   for (;;) {
     const double tau = TSTAR1 / T;
@@ -61,7 +61,7 @@ double WaterCalculator::T1PS(double p, double s) {
   if (engine->toleranceMode == 0) return T;
   const double tol = T * engine->tolerance;
   const int32_t limit = engine->maxIteration;
-  int32_t count = 0;
+  int64_t count = 0;  // wider than any cap: cannot overflow
   Region1FillA<0>(p);
   for (;;) {
     const double tau = TSTAR1 / T;

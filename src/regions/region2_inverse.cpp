@@ -123,7 +123,7 @@ double WaterCalculator::P2HSBACK(double h, double s) {
 // stop held on the last allowed pass). With range checks on, a T above the
 // top of region 2 comes down to it when it lies within the band, and above
 // 10 MPa (where region 5 does not continue the steam region) at any distance.
-static double FinishRegion2(const Engine& e, double p, double T, double tol, int32_t count,
+static double FinishRegion2(const Engine& e, double p, double T, double tol, int64_t count,
                             int32_t limit) {
   if (count >= limit) raise(3);
   if (e.checkRangeMode != 0) {
@@ -138,7 +138,7 @@ double WaterCalculator::T2PH(double p, double h) {
   if (engine->toleranceMode == 0) return T;
   const double tol = T * engine->tolerance;
   const int32_t limit = engine->maxIteration;
-  int32_t count = 0;
+  int64_t count = 0;  // wider than any cap: cannot overflow
   Region2FillA<0>(p);  // pi stays in powerA; the ideal part refills powerB
   for (;;) {
     const double tau = TSTAR2 / T;
@@ -158,7 +158,7 @@ double WaterCalculator::T2PS(double p, double s) {
   if (engine->toleranceMode == 0) return T;
   const double tol = T * engine->tolerance;
   const int32_t limit = engine->maxIteration;
-  int32_t count = 0;
+  int64_t count = 0;  // wider than any cap: cannot overflow
   const double lnpi = std::log(p / P2STAR);
   Region2FillA<0>(p);
   for (;;) {

@@ -35,7 +35,7 @@ double WaterCalculator::T5PH(double p, double h) {
   double T = StartTH(h);
   const double tol = T * engine->tolerance;
   const int32_t limit = engine->maxIteration;
-  int32_t count = 0;
+  int64_t count = 0;  // wider than any cap: cannot overflow
   Region5Pi<0>(p / P5STAR);  // pi is fixed: its powers are written once
   for (;;) {
     const double tau = TSTAR5 / T;
@@ -55,7 +55,7 @@ double WaterCalculator::T5PS(double p, double s) {
   double T = StartTS(s);
   const double tol = T * engine->tolerance;
   const int32_t limit = engine->maxIteration;
-  int32_t count = 0;
+  int64_t count = 0;  // wider than any cap: cannot overflow
   const double pi = p / P5STAR;
   const double lnPi = std::log(pi);
   Region5Pi<0>(pi);
