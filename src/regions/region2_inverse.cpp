@@ -39,7 +39,11 @@ double WaterCalculator::T2APS(double p, double s) {
   ForEachIndex<sizeof N / sizeof N[0]>([&](auto k) {
     if constexpr (k == 0 || I[k] != I[k - 1]) {
       double e = I[k];
-      asm("" : "+x"(e));
+#if defined(__SSE2_MATH__)
+      asm("" : "+x"(e));  // kept in its SSE register
+#else
+      asm("" : "+m"(e));  // x87 and other targets: through memory
+#endif
       piI = std::pow(pi, e);
     }
     sum += N[k] * piI * powerB.Power<J[k]>();
