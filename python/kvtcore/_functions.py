@@ -58,6 +58,12 @@ numpy ufunc; an array is evaluated by one library call on `workers` threads
 errors="raise" raises KvtError at a failed point, "nan" gives NaN there,
 "codes" returns (result, error codes).""".format(big=BIG)
 
+CALL_FOOTER = """
+Runs once on the calling thread's engine (kvtEngineCall), as the export runs
+on the global one; settings, last error and gases are the thread's own.
+errors="raise" raises KvtError on failure, "nan" gives NaN there (None for a
+text), "codes" returns (result, error code)."""
+
 
 class Info:
     """One catalogue row, as the library describes it."""
@@ -260,9 +266,7 @@ def docstring(fn):
     if fn.kind == "array":
         lines.append(FOOTER)
     else:
-        lines.append("Runs once on the calling thread's engine, as the export runs on its own; "
-                     'errors="raise" raises KvtError on failure, "nan" gives NaN (None for a '
-                     'text), "codes" returns (result, error code).')
+        lines.append(CALL_FOOTER)
     return "\n".join(lines)
 
 
