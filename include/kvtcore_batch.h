@@ -109,6 +109,30 @@ KVT_BATCH_API const char* kvtErrorMessage(int32_t code);
    an unknown rule. The text is static and needs no freeing. */
 KVT_BATCH_API const char* kvtRangeText(const char* rule);
 
+/* ---- Any row, once, on an engine ---- */
+
+/* Calls catalogue row fn on engine e as its export calls it on the global
+   engine: the same checks and core, so the result, the code and any text are
+   the export's, and settings, last error and gases are e's own (a gas that
+   kvtgNEWID or kvtgNEWIDGS makes here exists in e only).
+   numbers: the row's numeric arguments in order, ids, modes and other
+   integer arguments as doubles holding integers (may be null if it has
+   none); an integer argument that is no 32-bit integer fails the call with
+   code 1 before anything runs, and the result is -1. texts: its text
+   arguments in order (gas texts, names; may be null if it has none).
+   result (may be null) receives the returned number, an int32 result as a
+   double; for a text row 0, or -1 when the export returns null. outputs (may
+   be null) receives the two numbers of a pair row or the fourteen of a
+   14-output row, as the export writes them. text (may be null) receives a
+   text result (UTF-16 for kvtGETLASTERRORDESCRIPTIONW), null otherwise;
+   it lives in e until the next call on e. Returns e's last error after the
+   call (0 on success; what a last-error row leaves), or -1 with nothing done
+   for a null engine, a pointer that is no row of kvtFunctionAt, or null
+   numbers or texts that the row needs. */
+KVT_BATCH_API int32_t kvtEngineCall(kvtEngine* e, const kvtFunctionInfo* fn,
+                                    const double* numbers, const char* const* texts,
+                                    double* result, double* outputs, const char** text);
+
 /* ---- Evaluation over arrays ---- */
 
 /* Evaluates the catalogue function `name` (with or without the kvt prefix,

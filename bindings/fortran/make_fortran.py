@@ -180,6 +180,20 @@ BATCH = """
       integer(c_int32_t), value :: threads
       integer(c_int64_t) :: kvtEvalRow
     end function kvtEvalRow
+    ! Any row once on engine e: numbers(:) its numeric arguments (ids as
+    ! whole numbers), texts(:) = c_loc of its kvt_c texts (or c_null_ptr),
+    ! outputs = c_loc of 2 or 14 reals (or c_null_ptr), text receives a text
+    ! result (read it with kvt_f). Returns the engine's last error.
+    function kvtEngineCall(e, fn, numbers, texts, result, outputs, text) bind(C, name="kvtEngineCall")
+      import :: c_ptr, c_double, c_int32_t
+      type(c_ptr), value :: e, fn
+      real(c_double), intent(in) :: numbers(*)
+      type(c_ptr), value :: texts
+      real(c_double), intent(out) :: result
+      type(c_ptr), value :: outputs
+      type(c_ptr), intent(out) :: text
+      integer(c_int32_t) :: kvtEngineCall
+    end function kvtEngineCall
     function kvt_strlen(s) bind(C, name="strlen")
       import :: c_ptr, c_size_t
       type(c_ptr), value :: s

@@ -36,7 +36,8 @@ def function_info(name):
     """The catalogue row of a function, by its name with or without the kvt
     prefix, in any case: .name, .export, .ordinal, .shape, .rule, .result,
     .inputs and .outputs as (name, unit) pairs, .gas (0 water, 1 id, 2 text),
-    .evaluable, .kind ("array", "setting", "gas", "shared"), .range."""
+    .evaluable, .kind ("array": evaluated over arrays; "call": once, by
+    kvtEngineCall, on the calling thread's engine), .range."""
     key = name[3:] if name.lower().startswith("kvt") else name
     for fn in _catalogue.values():
         if fn.name.lower() == key.lower():

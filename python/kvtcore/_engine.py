@@ -13,7 +13,6 @@ from ctypes import addressof, c_double, c_int32, c_void_p
 from . import _lib
 
 _local = threading.local()
-_shared_lock = threading.Lock()   # around the few exports of the shared engine
 
 
 class _Engine:
@@ -31,6 +30,8 @@ class _Engine:
         self.outs = (c_void_p * 14)(*(addressof(self.outputs) + 8 * i for i in range(14)))
         self.code = c_int32()
         self.code_ptr = ctypes.byref(self.code)
+        self.result = c_double()            # kvtEngineCall's result and text
+        self.text = ctypes.c_void_p()
 
     def __del__(self, free=_lib.engine_free):
         free(self.ptr)
@@ -52,13 +53,17 @@ _texts = {}
 
 def library_text(code):
     """The library's own description of an error code, as kvtGETLASTERRORDESCRIPTION
-    gives it ("" for a code it has no text for)."""
+    gives it ("" for a code it has no text for). Read on an engine of its own,
+    so that no thread's last error changes."""
     if code not in _texts:
-        with _shared_lock:
-            _lib.set_last_error(code)
-            text = _lib.last_error_text()
-            _lib.set_last_error(0)
-        _texts[code] = text.decode("utf-8", "replace") if text else ""
+        e = _Engine()
+        number = c_double(code)
+        _lib.engine_call(e.ptr, _lib.function_find(b"SETLASTERROR"), ctypes.byref(number),
+                         None, None, None, None)
+        _lib.engine_call(e.ptr, _lib.function_find(b"GETLASTERRORDESCRIPTION"), None, None,
+                         None, None, ctypes.byref(e.text))
+        text = ctypes.string_at(e.text.value) if e.text.value else b""
+        _texts[code] = text.decode("utf-8", "replace")
     return _texts[code]
 
 

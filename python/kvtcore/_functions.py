@@ -7,10 +7,9 @@ module only knows how each kind of row is called:
   array    numbers in, one, two or fourteen numbers out: evaluated by
            kvtEvalRow on the calling thread's engine, over arrays on many
            threads with the GIL released
-  setting  the settings and last error, kept per thread
-  gas      gNEWIDGS and gDELETEGASID, on the calling thread's engine
-  shared   the rest (gas registry by id, texts, help, reserved functions):
-           the export itself, on the process's shared engine, under a lock
+  call     the rest (settings, last error, gas registry, texts, help,
+           reserved functions): one call of kvtEngineCall on the calling
+           thread's engine, which runs the row as its export would
 """
 import collections
 import ctypes
@@ -31,8 +30,8 @@ BIG = 20000          # from this many points on, arrays use every core by defaul
 results = types.ModuleType("kvtcore.results", "Named tuples of the pair and 14-output functions.")
 sys.modules["kvtcore.results"] = results
 
-# The C signature of each call shape of kvtcore.h (result, arguments), for the
-# exports called as they are.
+# The C signature of each call shape of kvtcore.h (result, arguments): which
+# arguments are texts and integers, and what the result is.
 _d, _i, _s = c_double, c_int32, c_char_p
 SHAPES = {"D0": (_d, ()), "D1": (_d, (_d,)), "D2": (_d, (_d,) * 2), "D3": (_d, (_d,) * 3),
           "D4": (_d, (_d,) * 4), "D5": (_d, (_d,) * 5), "D12": (_d, (_d,) * 12),
@@ -59,6 +58,12 @@ numpy ufunc; an array is evaluated by one library call on `workers` threads
 errors="raise" raises KvtError at a failed point, "nan" gives NaN there,
 "codes" returns (result, error codes).""".format(big=BIG)
 
+CALL_FOOTER = """
+Runs once on the calling thread's engine (kvtEngineCall), as the export runs
+on the global one; settings, last error and gases are the thread's own.
+errors="raise" raises KvtError on failure, "nan" gives NaN there (None for a
+text), "codes" returns (result, error code)."""
+
 
 class Info:
     """One catalogue row, as the library describes it."""
@@ -76,9 +81,7 @@ class Info:
         self.outputs = tuple((c.outputNames[i].decode(), c.outputUnits[i].decode())
                              for i in range(c.outputs))
         self.integer = SHAPES.get(self.shape, (None,))[0] is c_int32
-        self.kind = ("setting" if self.name in SPECIAL else
-                     "gas" if self.name in ENGINE_GAS else
-                     "array" if self.evaluable or len(self.outputs) > 1 else "shared")
+        self.kind = "array" if self.evaluable or len(self.outputs) > 1 else "call"
         text = _lib.range_text(self.rule.encode()) if _lib.range_text else None
         self.range = text.decode() if text else ""
         self.tuple = None
@@ -190,90 +193,51 @@ def _array(fn, gas, args, errors, workers):
     return (result, codes) if errors == "codes" else result
 
 
-# ---- Settings, last error and gases of the thread's engine ----
+# ---- Every other row through kvtEngineCall, on the thread's engine ----
 
-def _set(setting, kind=float):
-    def setter(value):
-        value = kind(value)
-        _engine.set_settings(**{setting: value})
-        engine().last = 0
-        if not math.isfinite(value):             # stored all the same, as the export does
-            engine().last = 1
-            raise KvtError(1, "SETTOLERANCE")
-        return value
-    return setter
+_SET_LAST_ERROR = _lib.function_find(b"SETLASTERROR")
 
 
-def _get(setting):
-    def getter():
-        engine().last = 0
-        return _engine.get_settings()[setting]
-    return getter
+def _utf16(address):
+    """The null-terminated UTF-16 text at an address."""
+    n = 0
+    while ctypes.c_uint16.from_address(address + 2 * n).value:
+        n += 1
+    return ctypes.string_at(address, 2 * n).decode("utf-16-le", "replace")
 
 
-def _set_last_error(code):
-    code = int(code)
-    engine().last = code if 0 < code < 12 else 0
-    return engine().last
-
-
-def _reserved(*_):
-    engine().last = 8
-    raise KvtError(8, "reserved setting")
-
-
-SPECIAL = {
-    "SETTOLERANCE": _set("tolerance"), "GETTOLERANCE": _get("tolerance"),
-    "SETTOLERANCEMODE": _set("tolerance_mode", int), "GETTOLERANCEMODE": _get("tolerance_mode"),
-    "SETCHECKRANGEMODE": _set("check_range", int), "GETCHECKRANGEMODE": _get("check_range"),
-    "SETMAXITERATION": _set("max_iteration", int), "GETMAXITERATION": _get("max_iteration"),
-    "SETLASTERROR": _set_last_error, "GETLASTERROR": lambda: engine().last,
-    "GETLASTERRORDESCRIPTION": lambda: _engine.library_text(engine().last),
-    "GETLASTERRORDESCRIPTIONW": lambda: _engine.library_text(engine().last),
-}
-
-
-def _new_gas(gs):
-    e = engine()
-    gas_id = _lib.engine_new_gas(e.ptr, _gas_text(gs, "gNEWIDGS"))
-    e.last = _lib.engine_last_error(e.ptr) if gas_id < 0 else 0
-    if gas_id < 0:
-        raise KvtError(e.last, "gNEWIDGS")
-    return gas_id
-
-
-def _delete_gas(gas_id):
-    e = engine()
-    left = _lib.engine_delete_gas(e.ptr, int(gas_id))
-    e.last = _lib.engine_last_error(e.ptr) if left < 0 else 0
-    if left < 0:
-        raise KvtError(e.last, "gDELETEGASID")
-    return left
-
-
-ENGINE_GAS = {"gNEWIDGS": _new_gas, "gDELETEGASID": _delete_gas}
-
-
-# ---- The exports of the shared engine ----
-
-def call_shared(fn, args, errors="raise"):
+def call(fn, args, errors="raise"):
+    """Row fn once, with the Python arguments args, as its export runs it."""
     if errors not in ERRORS:
         raise ValueError(f"{fn.name}: errors is one of {', '.join(ERRORS)}, not {errors!r}")
-    export = getattr(_lib.lib, fn.export)
     restype, argtypes = SHAPES[fn.shape]
-    if export.argtypes is None:
-        export.restype, export.argtypes = restype, list(argtypes)
-    args = [_gas_text(a, fn.name) if isinstance(a, str) else a for a in args]
-    with _engine._shared_lock:
-        value = export(*args)
-        code = _lib.get_last_error()
-    engine().last = code
-    if restype is c_char_p and value is not None:
-        value = value.decode("utf-8", "replace")
+    numbers, texts = [], []
+    for a, kind in zip(args, argtypes):
+        if kind is c_char_p:
+            texts.append(_gas_text(a, fn.name))
+        else:
+            numbers.append(float(a))            # an integer that is no int32 fails with code 1
+    e = engine()
+    plain = fn.rule == "Plain"                  # the last-error rows read it without clearing
+    if plain and _lib.engine_last_error(e.ptr) != e.last:
+        number = c_double(e.last)
+        _lib.engine_call(e.ptr, _SET_LAST_ERROR, ctypes.byref(number), None, None, None, None)
+    code = _lib.engine_call(e.ptr, fn.ptr, (c_double * len(numbers))(*numbers) if numbers else None,
+                            (c_char_p * len(texts))(*texts) if texts else None,
+                            ctypes.byref(e.result), None, ctypes.byref(e.text))
+    e.last = code
+    if plain:
+        code = 0                                # the code read is no failure of the call
+    if restype is c_char_p or restype is c_void_p:
+        address = e.text.value
+        value = (None if not address else ctypes.string_at(address).decode("utf-8", "replace")
+                 if restype is c_char_p else _utf16(address))
+    else:
+        value = int(e.result.value) if restype is c_int32 else e.result.value
     if code:
         if errors == "raise":
             raise KvtError(code, fn.name)
-        value = None if restype is c_char_p else math.nan
+        value = None if restype in (c_char_p, c_void_p) else math.nan
     return (value, code) if errors == "codes" else value
 
 
@@ -301,10 +265,8 @@ def docstring(fn):
     lines += ["", f"Export {fn.export}, ordinal {fn.ordinal}, range rule {fn.rule}."]
     if fn.kind == "array":
         lines.append(FOOTER)
-    elif fn.kind == "shared":
-        lines.append("Runs on the process's shared engine (the C exports' own), under a lock.")
     else:
-        lines.append("Works on the calling thread's engine.")
+        lines.append(CALL_FOOTER)
     return "\n".join(lines)
 
 
@@ -341,13 +303,10 @@ def make(fn, module):
         if params and fn.gas != 2 and len(fn.outputs) == 1 and not fn.integer:
             fast = _FAST.format(test=" and ".join(f"type({a}) in _S" for a in params.split(", ")),
                                 store="; ".join(f"i[{k}] = {a}" for k, a in enumerate(params.split(", "))))
-    elif fn.kind == "shared":
-        head = f"{params}, *, errors='raise'" if params else "*, errors='raise'"
-        body = f"_shared(_fn, ({params}{',' if params else ''}), errors)"
     else:
-        head, body = params, f"_impl({params})"
-    space = {"_evaluate": evaluate, "_shared": call_shared, "_fn": fn, "_S": _SCALAR,
-             "_impl": SPECIAL.get(fn.name) or ENGINE_GAS.get(fn.name), "_local": _engine._local,
+        head = f"{params}, *, errors='raise'" if params else "*, errors='raise'"
+        body = f"_call_row(_fn, ({params}{',' if params else ''}), errors)"
+    space = {"_evaluate": evaluate, "_call_row": call, "_fn": fn, "_S": _SCALAR, "_local": _engine._local,
              "_engine": engine, "_call": _lib.eval_row_raw, "_row": c_void_p(fn.ptr),
              "_one": c_size_t(1), "_one_thread": c_int32(1)}
     exec(f"def {fn.name}({head}):\n{fast}    return {body}\n", space)

@@ -43,10 +43,12 @@ engine_free = _proto("kvtEngineFree", None, c_void_p)
 engine_set = _proto("kvtEngineSet", c_int32, c_void_p, c_char_p, c_double)
 engine_get = _proto("kvtEngineGet", c_double, c_void_p, c_char_p)
 engine_last_error = _proto("kvtEngineLastError", c_int32, c_void_p)
-engine_new_gas = _proto("kvtEngineNewGas", c_int32, c_void_p, c_char_p)
-engine_delete_gas = _proto("kvtEngineDeleteGas", c_int32, c_void_p, c_int32)
+# engine, row, numbers, texts, result, outputs, text
+engine_call = _proto("kvtEngineCall", c_int32, c_void_p, c_void_p, c_void_p, c_void_p,
+                     c_void_p, c_void_p, c_void_p)
 function_count = _proto("kvtFunctionCount", c_int32)
 function_at = _proto("kvtFunctionAt", POINTER(FunctionInfo), c_int32)
+function_find = _proto("kvtFunctionFind", c_void_p, c_char_p)
 error_message = _proto("kvtErrorMessage", c_char_p, c_int32)
 # engine, row, gas text, n, args, strides, outs, codes, threads
 eval_row = _proto("kvtEvalRow", c_int64, c_void_p, c_void_p, c_char_p, c_size_t,
@@ -58,9 +60,3 @@ eval_row_raw.restype = c_int64
 range_text = getattr(lib, "kvtRangeText", None)
 if range_text is not None:
     range_text.restype, range_text.argtypes = c_char_p, [c_char_p]
-
-# The exports of the process's one shared engine, for the few calls that have
-# no engine form; the package takes a lock around them.
-set_last_error = _proto("kvtSETLASTERROR", c_int32, c_int32)
-get_last_error = _proto("kvtGETLASTERROR", c_int32)
-last_error_text = _proto("kvtGETLASTERRORDESCRIPTION", c_char_p)

@@ -1,5 +1,6 @@
 """How the package behaves: errors, broadcasting, settings per thread, the
 catalogue as functions, Dask and charts."""
+import concurrent.futures
 import inspect
 import math
 import os
@@ -127,6 +128,41 @@ def test_threads_keep_their_own_settings():
             np.testing.assert_array_equal(codes, serial[k][1])
 
 
+def in_new_thread(work):
+    """work() on a thread of its own (a fresh engine); its exception re-raised."""
+    with concurrent.futures.ThreadPoolExecutor(1) as pool:
+        return pool.submit(work).result()
+
+
+def test_gases_and_errors_stay_in_their_thread():
+    def owner():        # gDELETEGASES below must not reach the other tests' engine
+        n2, o2 = kvtcore.gIDNAME("N2"), kvtcore.gIDNAME("O2")
+        gas = kvtcore.gNEWID()
+        assert kvtcore.gADDGASV(gas, n2, 79.0) == 1 and kvtcore.gADDGASV(gas, o2, 21.0) == 2
+        by_text = kvtcore.gNEWIDGS("N2:0.5;O2:0.5")
+        cp = kvtcore.gCPIDT(gas, 500.0)
+        assert cp == kvtcore.gCPGST("N2:79;O2:21", 500.0) and "O2" in kvtcore.gGSID(gas)
+        count = kvtcore.gGASESCOUNT()
+
+        def other():
+            return (kvtcore.gCPIDT(gas, 500.0, errors="codes")[1], kvtcore.gGSID(gas, errors="codes"),
+                    kvtcore.gCPIDT(by_text, 500.0, errors="codes")[1], kvtcore.gGASESCOUNT(),
+                    kvtcore.SETTOLERANCEMODE(0), kvtcore.GETLASTERROR())
+
+        cp_code, gs, text_code, other_count, mode, last = in_new_thread(other)
+        assert cp_code != 0 and gs[0] is None and gs[1] != 0 and text_code != 0
+        assert other_count == count - 2 and mode == 0 and last == 0
+        assert kvtcore.gCPIDT(gas, 500.0) == cp and kvtcore.GETTOLERANCEMODE() == 1
+        assert kvtcore.gDELETEGASES() < count
+        with pytest.raises(kvtcore.KvtError):
+            kvtcore.gGSID(gas)
+        value, code = kvtcore.SETTOLERANCEMODE(0.5, errors="codes")   # no integer: not stored
+        assert math.isnan(value) and code == 1 and kvtcore.GETTOLERANCEMODE() == 1
+        assert kvtcore.GETLASTERRORDESCRIPTIONW() == kvtcore.GETLASTERRORDESCRIPTION()
+
+    in_new_thread(owner)
+
+
 def test_catalogue_rows_are_the_functions():
     sys.path.insert(0, os.path.join(CHECKOUT, "tools"))
     catalogue = pytest.importorskip("catalogue")
@@ -139,7 +175,8 @@ def test_catalogue_rows_are_the_functions():
         assert params == [kvtcore._functions._identifier(a.name) for a in r.inputs] and info.ordinal == r.ordinal
         assert info.evaluable == r.evaluable and info.result == r.result
         assert (r.result if len(info.outputs) == 1 else f"[{r.outputs[-1].unit}]") in f.__doc__ and all(f"[{a.unit}]" in f.__doc__ for a in r.inputs if a.unit)
-        if info.kind == "shared":                    # called as the export is
+        assert info.kind == ("array" if r.evaluable or len(r.outputs) > 1 else "call")
+        if info.kind == "call":                      # texts and numbers as the export takes them
             restype, argtypes = kvtcore._functions.SHAPES[r.shape]
             assert [t.__name__ for t in argtypes] == [ctypes_of[a.ctype] for a in r.args]
     assert kvtcore.function_info("kvthpt").name == "HPT"
