@@ -21,10 +21,19 @@ namespace kvt {
 
 // Passes unless the exponent bits are all ones: fails for both infinities and
 // every NaN, whatever the floating-point environment.
+// With SSE2 the top sixteen bits (sign, exponent, four bits of the fraction)
+// come straight out of the register, one instruction instead of a move and a
+// shift; the test on the exponent is the same.
 inline bool IsFinite(double x) {
+#if defined(__SSE2__)
+  uint32_t top;
+  asm("pextrw $3, %1, %0" : "=r"(top) : "x"(x));
+  return (top & 0x7ff0) != 0x7ff0;
+#else
   uint64_t bits;
   std::memcpy(&bits, &x, sizeof bits);
   return ((bits >> 52) & 0x7ff) != 0x7ff;
+#endif
 }
 
 // A raised integer code: kept if no code is stored yet and it is one of the
