@@ -103,10 +103,8 @@ class WaterCalculator {
   double VUSHCVWDERPT3PT(double p, double T, Out14& out);
 
   // ---- Saturation line ----
-  // Written into each caller (region3/saturation_line.h): a few operations,
-  // cheaper in place than behind a call.
-  __attribute__((always_inline)) double PST(double T) const;
-  __attribute__((always_inline)) double TSP(double p) const;
+  double PST(double T) const;
+  double TSP(double p) const;
   double DPDTST(double T) const;
   double ROUGHRSWT(double T);
   double ROUGHRSST(double T);
