@@ -6,20 +6,34 @@
 
 #include <cstdint>
 #include <cstring>
-#include <functional>
+#include <utility>
 #include <type_traits>
 
 #include "frame/engine.h"
 #include "frame/ranges.h"
 
+// The frame is a few instructions around a call; written into each export (and
+// each loop of the array interface) it costs no call of its own and reads the
+// engine at a fixed address.
+#define KVT_FRAME_INLINE inline __attribute__((always_inline))
+
 namespace kvt {
 
 // Passes unless the exponent bits are all ones: fails for both infinities and
 // every NaN, whatever the floating-point environment.
+// With SSE2 the top sixteen bits (sign, exponent, four bits of the fraction)
+// come straight out of the register, one instruction instead of a move and a
+// shift; the test on the exponent is the same.
 inline bool IsFinite(double x) {
+#if defined(__SSE2__)
+  uint32_t top;
+  asm("pextrw $3, %1, %0" : "=r"(top) : "x"(x));
+  return (top & 0x7ff0) != 0x7ff0;
+#else
   uint64_t bits;
   std::memcpy(&bits, &x, sizeof bits);
   return ((bits >> 52) & 0x7ff) != 0x7ff;
+#endif
 }
 
 // A raised integer code: kept if no code is stored yet and it is one of the
@@ -39,10 +53,12 @@ template <class M> struct MemberOf;
 template <class C, class R, class... P> struct MemberOf<R (C::*)(P...)> { using type = C; };
 template <class C, class R, class... P> struct MemberOf<R (C::*)(P...) const> { using type = C; };
 
+// Called through the member pointer itself, a constant here, so that the
+// compiler sees a plain call to the core and can write a small core in place.
 template <auto Core, class... A>
 inline decltype(auto) RunCore(Engine& e, A&&... a) {
   using Owner = typename MemberOf<decltype(Core)>::type;
-  return std::invoke(Core, OwnerOf<Owner>(e), std::forward<A>(a)...);
+  return (OwnerOf<Owner>(e).*Core)(std::forward<A>(a)...);
 }
 
 template <class R> inline R FailureResult() {
@@ -55,7 +71,7 @@ template <class R> inline R FailureResult() {
 // engine it is given (an engine of the array interface); Guarded, the road of
 // the exports, on the global engine.
 template <class R, class Rule, auto Core, class... A>
-R GuardedOn(Engine& e, A... a) {
+KVT_FRAME_INLINE R GuardedOn(Engine& e, A... a) {
   if constexpr (std::is_same_v<Rule, rules::Plain>) {
     // The last-error functions: no clearing, but still nothing escapes.
     try {
@@ -100,7 +116,7 @@ R GuardedOn(Engine& e, A... a) {
 }
 
 template <class R, class Rule, auto Core, class... A>
-R Guarded(A... a) {
+KVT_FRAME_INLINE R Guarded(A... a) {
   return GuardedOn<R, Rule, Core, A...>(engine(), a...);
 }
 
