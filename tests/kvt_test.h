@@ -45,14 +45,25 @@ inline Out CallMany(Many many, double a, double b, double* ok = nullptr) {
   return o;
 }
 
+// The code a core raises, 0 if none.
+template <class F> int32_t CodeOf(F&& f) {
+  try {
+    f();
+  } catch (int32_t code) {
+    return code;
+  }
+  return 0;
+}
+
 // An export by its name without the prefix, with the C type of its shape.
 struct Row {
   const char* name;
   const char* shape;
   void (*fn)();
+  const char* core;
 };
 #define KVT_TEST_ROW(ord, name, shape, rule, core, args, result) \
-  {#name, #shape, reinterpret_cast<void (*)()>(&name)},
+  {#name, #shape, reinterpret_cast<void (*)()>(&name), #core},
 inline const Row kRows[] = {KVT_CATALOGUE(KVT_TEST_ROW)};
 template <class F> F Export(const std::string& name, const char* shape) {
   for (const Row& r : kRows)
