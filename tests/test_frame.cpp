@@ -95,14 +95,17 @@ TEST_F(Frame, ManyShapeWritesOnlyOnSuccess) {
 // Setters store whatever they get; NaN is stored and reported as error 1,
 // and then the getter fails its finiteness test too.
 TEST_F(Frame, Settings) {
-  const double rows[][2] = {  // evaluated in order: defaults, then each setter and its getter
-      {kvtGETTOLERANCE(), 2e-12}, {kvtGETTOLERANCEMODE(), 1}, {kvtGETCHECKRANGEMODE(), 1},
-      {kvtGETMAXITERATION(), 100}, {kvtGETKVTVERSION(), 6.0001}, {kvtGETABSOLUTEGASCONSTANT(), 8.31451},
-      {double(kvt::engine().calcDissMode), 0}, {kvtSETTOLERANCE(0.0), 0.0}, {kvtGETTOLERANCE(), 0.0},
-      {kvtSETTOLERANCE(-1e-3), -1e-3}, {kvtSETTOLERANCEMODE(7), 7}, {kvtGETTOLERANCEMODE(), 7},
+  // Evaluated in order: the defaults, then each setter and its getter.
+  const double reals[][2] = {{kvtGETTOLERANCE(), 2e-12}, {kvtGETKVTVERSION(), 6.0001},
+                             {kvtGETABSOLUTEGASCONSTANT(), 8.31451}, {kvtSETTOLERANCE(0.0), 0.0},
+                             {kvtGETTOLERANCE(), 0.0}, {kvtSETTOLERANCE(-1e-3), -1e-3}};
+  const int32_t ints[][2] = {
+      {kvtGETTOLERANCEMODE(), 1}, {kvtGETCHECKRANGEMODE(), 1}, {kvtGETMAXITERATION(), 100},
+      {kvt::engine().calcDissMode, 0}, {kvtSETTOLERANCEMODE(7), 7}, {kvtGETTOLERANCEMODE(), 7},
       {kvtSETCHECKRANGEMODE(-2), -2}, {kvtGETCHECKRANGEMODE(), -2}, {kvtSETMAXITERATION(0), 0},
       {kvtGETMAXITERATION(), 0}, {kvtSETMAXITERATION(-5), -5}};
-  for (const auto& r : rows) EXPECT_EQ(r[0], r[1]) << "row " << &r - rows;
+  for (const auto& r : reals) EXPECT_EQ(r[0], r[1]) << "real " << &r - reals;
+  for (const auto& r : ints) EXPECT_EQ(r[0], r[1]) << "int " << &r - ints;
   EXPECT_EQ(kvtGETLASTERROR(), 0);
   EXPECT_CODE(kvtSETTOLERANCE(kNaN), 1);
   EXPECT_TRUE(std::isnan(kvt::engine().tolerance));
