@@ -56,10 +56,9 @@ inline const std::vector<double>& SpecialDoubles() {
       std::numeric_limits<double>::denorm_min(), 1e-300, 1e300, 1e-12, 2e-12,
       273.15, 273.15999999999, 273.16, 300.0, 373.15, 500.0, 623.15, 647.096, 800.0,
       863.15, 1073.15, 1080.0, 1273.15, 2273.15, 200.0, 2500.0, 199.99, 1000.0,
-      611.212677444343, 611.2, 1e5, 101325.0, 1e6, 3e6, 4e6, 1e7, 16.5292e6, 22064000.0,
-      22.064e6, 25e6, 5e7, 1e8, 1e9, 4e9,
-      1e3, 1e4, 2e5, 2.6e6, 2.0870e6, 2.5e6, 3.5e6, 4e6, 1.67e6,
-      1000.0, 3000.0, 4412.02148223476, 5000.0, 5850.0, 6000.0, 7000.0, 9000.0, 12000.0,
+      611.212677444343, 611.2, 1e5, 101325.0, 1e6, 3e6, 4e6, 1e7, 16.5292e6, 22.064e6, 25e6,
+      5e7, 1e8, 1e9, 4e9, 1e3, 1e4, 2e5, 2.6e6, 2.0870e6, 2.5e6, 3.5e6, 1.67e6,
+      3000.0, 4412.02148223476, 5000.0, 5850.0, 6000.0, 7000.0, 9000.0, 12000.0,
       322.0, 0.001, 0.1, 0.9, 0.99, 1.01, 1.1, 1.0 - 1e-16};
   return values;
 }
@@ -123,17 +122,13 @@ struct Session {
 // Output slots of the pair and 14-output shapes, set before each call to a
 // NaN whose payload no computation makes, so that an unwritten one shows.
 struct Outputs {
+  static constexpr uint64_t kBits = 0x7ff4dead0000beefULL;
   static double Sentinel() {
-    const uint64_t bits = 0x7ff4dead0000beefULL;
     double d;
-    std::memcpy(&d, &bits, sizeof d);
+    std::memcpy(&d, &kBits, sizeof d);
     return d;
   }
-  static bool IsSentinel(double d) {
-    uint64_t bits;
-    std::memcpy(&bits, &d, sizeof d);
-    return bits == 0x7ff4dead0000beefULL;
-  }
+  static bool IsSentinel(double d) { return std::memcmp(&d, &kBits, sizeof d) == 0; }
   void Reset() {
     for (double& d : slot) d = Sentinel();
     used = 0;

@@ -45,6 +45,16 @@ inline Out CallMany(Many many, double a, double b, double* ok = nullptr) {
   return o;
 }
 
+// The code a core raises, 0 if none.
+template <class F> int32_t CodeOf(F&& f) {
+  try {
+    f();
+  } catch (int32_t code) {
+    return code;
+  }
+  return 0;
+}
+
 // An export by its name without the prefix, with the C type of its shape.
 struct Row {
   const char* name;

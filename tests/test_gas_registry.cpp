@@ -12,16 +12,7 @@ namespace {
 
 using kvt::GasEngine;
 using kvt::GasRecord;
-
-// The code a core raises, 0 if none.
-template <class F> int32_t CodeOf(F&& f) {
-  try {
-    f();
-  } catch (int32_t code) {
-    return code;
-  }
-  return 0;
-}
+using kvt_test::CodeOf;
 
 class Spec : public testing::Test {
  protected:
@@ -127,9 +118,7 @@ TEST_F(Spec, CanonicalTextByteForByte) {
 
 TEST_F(Spec, FreshRegistryNamesAndBuiltInIds) {
   EXPECT_EQ(gas.GasesCount(), 15);
-  EXPECT_EQ(gas.IdOfName("Air"), 6);
-  EXPECT_EQ(gas.IdOfName("air"), 6);
-  EXPECT_EQ(gas.IdOfName("AirMix"), 13);
+  for (auto [name, id] : {std::pair{"Air", 6}, {"air", 6}, {"AirMix", 13}}) EXPECT_EQ(gas.IdOfName(name), id);
   EXPECT_EQ(kvtgIDNAME("aIrMiX"), 13);
   EXPECT_CODE(kvtgIDNAME("Methane"), 1);
   for (const char* name : {"N2", "n2"}) EXPECT_EQ(CodeOf([&] { gas.NewNamedGas(name); }), 1);

@@ -2,33 +2,21 @@
 // the largest 32-bit integer, and NaN where a number should be. A solve whose
 // stop test lets a NaN through ends at once with error 1, whatever the cap;
 // no pass counter overflows.
-#include <gtest/gtest.h>
-
 #include <chrono>
-#include <cmath>
-#include <cstdint>
-#include <functional>
 
-#include "kvtcore.h"
+#include "kvt_test.h"
 
 namespace {
 
-constexpr double kNaN = NAN;
-
-struct CapAtMost {
-  CapAtMost() { kvtSETMAXITERATION(INT32_MAX); }
-  ~CapAtMost() { kvtSETMAXITERATION(100); }
-};
+using namespace kvt_test;
+using HostileSolves = Defaults;  // puts the cap back
 
 // The solves of regions 1, 2 and 5 and of the gases let a NaN step or
 // residual leave the loop; the composites on top of them end as quickly.
 // (The pair outputs of kvtPT1RH and the like then hold NaN and return 1,
 // as the design says; only the returned 1 is tested.)
-TEST(HostileSolves, NaNEndsTheSolveAtOnceWhateverTheCap) {
-  const struct {
-    const char* call;
-    std::function<double()> f;
-  } cases[] = {
+TEST_F(HostileSolves, NaNEndsTheSolveAtOnceWhateverTheCap) {
+  const struct { const char* call; double (*f)(); } cases[] = {
       {"T1PH", [] { return kvtT1PH(1e6, kNaN); }},
       {"T1PS", [] { return kvtT1PS(kNaN, 1000); }},
       {"P1HS", [] { return kvtP1HS(kNaN, 1000); }},
@@ -44,7 +32,7 @@ TEST(HostileSolves, NaNEndsTheSolveAtOnceWhateverTheCap) {
       {"gTIDPS", [] { return kvtgTIDPS(0, kNaN, 7000); }},
       {"gTGSH", [] { return kvtgTGSH("N2:1;O2:1", kNaN); }},
   };
-  const CapAtMost cap;
+  kvtSETMAXITERATION(INT32_MAX);
   for (const auto& c : cases) {
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(c.f(), -1.0) << c.call;
@@ -58,9 +46,9 @@ TEST(HostileSolves, NaNEndsTheSolveAtOnceWhateverTheCap) {
 // to the cap by design and must then raise 3. At the largest cap that is
 // 2^31 passes, more than a minute, so it runs only in an optimised build
 // without sanitizers.
-TEST(HostileSolves, GasSearchAtTheLargestCapRaises3) {
+TEST_F(HostileSolves, GasSearchAtTheLargestCapRaises3) {
 #if defined(NDEBUG) && !defined(__SANITIZE_ADDRESS__)
-  const CapAtMost cap;
+  kvtSETMAXITERATION(INT32_MAX);
   EXPECT_EQ(kvtgTIDH(10, 0), -1.0);
   EXPECT_EQ(kvtGETLASTERROR(), 3);
 #else

@@ -15,15 +15,11 @@ namespace {
 
 std::vector<double> NumbersIn(const std::string& text) {
   std::vector<double> numbers;
-  for (const char* c = text.c_str(); *c;) {
+  for (const char* c = text.c_str(); *c; ++c) {
+    if (std::isdigit(static_cast<unsigned char>(*c)) == 0) continue;
     char* end = nullptr;
-    const double v = (std::isdigit(static_cast<unsigned char>(*c)) != 0) ? std::strtod(c, &end) : 0;
-    if (end && end != c) {
-      numbers.push_back(v);
-      c = end;
-    } else {
-      ++c;
-    }
+    numbers.push_back(std::strtod(c, &end));
+    c = end - 1;
   }
   return numbers;
 }
